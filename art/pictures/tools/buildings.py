@@ -1,0 +1,51 @@
+"""Everything that is modelled as a scene: buildings, tent, fields, doctor,
+front walls and tower."""
+import numpy as np
+from iso import *
+import render as scenes
+
+# drawing: scene, kind of canvas, options, picture numbers of its pieces in
+# the order anchor, x + 1, y + 1, both (or of its one cell)
+DRAWINGS = {
+    'tent':      ('tent', 'tile', {}, [4]),
+    'house':     ('house', 'flat', {}, [19, 35, 33, 34]),
+    'apartment': ('apartment', 'apt', {}, [3, 5, 6, 7]),
+    'market':    ('market', 'tall', {}, [8, 9, 10, 11]),
+    'school':    ('school', 'tall', {}, [25, 31, 26, 30]),
+    'tavern':    ('tavern', 'tall', {}, [44, 46, 45, 47]),
+    'church':    ('church', 'tall', {}, [14, 32, 18, 15]),
+    'doctor':    ('doctor', 'tiletall', {}, [12]),
+    'field':     ('farm', 'tile', {'declare': ['Stage=0']}, [13]),
+    'crop':      ('farm', 'tile', {'declare': ['Stage=1']}, [54]),
+    'straw':     ('farm', 'tile', {'declare': ['Stage=2']}, [55]),
+    'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'fade': False}, [59]),
+    'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'fade': False}, [60]),
+    'tower':     ('wall', 'tiletall', {'declare': ['Which=2']}, [61]),
+}
+ODD_BOX = (5, 6)          # 63 x 33: drawn as 64 x 32, so nothing may be lost
+
+
+def fit(n, piece):
+    if n not in ODD_BOX:
+        return piece
+    out = np.zeros((33, 63, 4), np.uint8)
+    out[:32] = piece[:, :63]
+    if piece[:, 63, 3].any():
+        raise SystemExit('picture %d needs its last column' % n)
+    return out
+
+
+def draw(name):
+    scene, kind, opts, numbers = DRAWINGS[name]
+    img, table = scenes.finish(scene, kind, dict(opts, **{'as': name}))
+    if table is None:
+        save_pair(numbers[0], img)
+        return
+    pieces = cut(img, table)
+    for n, (key, _, _) in zip(numbers, table):
+        save_pair(n, fit(n, pieces[key]))
+
+
+def render(names=()):
+    for name in names or DRAWINGS:
+        draw(name)

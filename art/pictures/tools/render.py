@@ -1,0 +1,185 @@
+"""From a POV-Ray scene to a finished drawing.
+
+A scene is rendered twice without POV-Ray's own anti-aliasing at SS times the
+size, so that every sample belongs to one surface: pass 0 the light (16 bit,
+linear), pass 1 the depth and whether the sample shows an object or the bare
+ground.  Averaging, outline, grading, grass and masking are done here.
+
+ART_DRAFT=1 renders coarser and three times faster, for trying things out."""
+import os
+import subprocess
+import sys
+import tempfile
+import time
+import numpy as np
+from iso import *
+
+DRAFT = bool(os.environ.get('ART_DRAFT'))
+SS = 4 if DRAFT else 8
+HERE = os.path.dirname(os.path.abspath(__file__))
+POV = os.path.join(HERE, '../pov')
+TMP = os.path.join(tempfile.gettempdir(), 'vellmoran_art_%d' % os.getpid())
+KINDS = {                   # canvas w, h, ox, oy, footprint cells, piece table
+    'tall': (128, 96, 64, 32, 2, PIECES_TALL),
+    'apt': (128, 96, 64, 32, 2, PIECES_APT),
+    'flat': (128, 96, 64, 32, 2, PIECES_FLAT),
+    'tile': (64, 32, 32, 0, 1, None),
+    'tiletall': (64, 64, 32, 32, 1, None),
+}
+LIGHT0 = None               # light of white ground in the open
+
+
+def open_light():
+    """The light on bare white ground, against which shade is measured."""
+    global LIGHT0
+    if LIGHT0 is None:
+        LIGHT0 = pov('open', 'open', 0, 2, 2, 1, 0)[0, 0] * 2
+    return LIGHT0
+
+
+def pov(name, tag, npass, w, h, ox, oy, extra=(), ss=None):
+    ss = ss or SS
+    os.makedirs(TMP, exist_ok=True)
+    out = '%s/%s_%d.ppm' % (TMP, tag, npass)
+    cmd = ['nice', '-n', '10',
+           'povray', '+I' + name + '.pov', '+O' + out, '+W%d' % (w * ss), '+H%d' % (h * ss),
+           '+Linc', '+FP16', '-D', '-A', '-J', 'File_Gamma=1.0', '+WT1',
+           'Declare=Pass=%d' % npass, 'Declare=CW=%s' % w, 'Declare=CH=%s' % h,
+           'Declare=OX=%s' % ox, 'Declare=OY=%s' % oy] + ['Declare=' + e for e in extra]
+    if DRAFT:
+        cmd.append('Declare=DomeN=16')
+    r = subprocess.run(cmd, cwd=POV, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+    if r.returncode:
+        print(r.stdout[-3000:])
+        sys.exit('povray failed: ' + name)
+    a = read_ppm(out)
+    os.remove(out)
+    return a
+
+
+def read_ppm(path):
+    """Pixels 0..1.  The header is skipped token by token: it holds a comment."""
+    with open(path, 'rb') as f:
+        data = f.read()
+    tok, pos = [], 0
+    while len(tok) < 4:
+        end = pos
+        while data[end:end + 1] not in b' \n\t\r':
+            end += 1
+        t = data[pos:end]
+        if t.startswith(b'#'):
+            pos = data.index(b'\n', pos) + 1
+            continue
+        if t:
+            tok.append(t)
+        pos = end + 1
+    w, h, m = int(tok[1]), int(tok[2]), int(tok[3])
+    a = np.frombuffer(data, '>u2' if m > 255 else 'u1', w * h * 3, pos)
+    return a.reshape(h, w, 3).astype(float) / m
+
+
+def outline(depth, thin=.5, jump=.06):
+    """Line strength per sample, 0..1: silhouettes drawn inside the nearer
+    surface, `thin` pixels wide, wherever a neighbour is `jump` farther."""
+    r = max(1, int(round(SS * thin)))
+    far = np.zeros_like(depth)
+    for dy, dx in ((0, 1), (0, -1), (1, 0), (-1, 0)):
+        for k in (1, r):
+            s = np.roll(depth, (dy * k, dx * k), (0, 1))
+            far = np.maximum(far, s - depth)
+    return np.clip((far - jump) / jump, 0, 1)
+
+
+def samples_pov(name, kind, opts):
+    """(light, depth, is-object, light of open ground) at SS times the size."""
+    w, h, ox, oy, n, table = KINDS[kind]
+    tag, extra = opts.get('as', name), opts.get('declare', ())
+    lit0 = open_light()
+    beauty = pov(name, tag, 0, w, h, ox, oy, extra) * 2     # lights are halved
+    aux = pov(name, tag, 1, w, h, ox, oy, extra)
+    return beauty, aux[..., 0] * 12, (aux[..., 1] > .5).astype(float), lit0
+
+
+def spill(name, kind, opts, mask):
+    """How many pixels of the model fall outside its pictures: a quick look at
+    the object flags on a canvas with a wide rim."""
+    w, h, ox, oy, n, table = KINDS[kind]
+    m, ss = 48, 4
+    aux = pov(name, opts.get('as', name) + '_rim', 1, w + 2 * m, h + 2 * m, ox + m, oy + m,
+              opts.get('declare', ()), ss)
+    out = box_down((aux[..., 1] > .5).astype(float), ss) >= .5
+    out[m:-m, m:-m] &= ~mask
+    return int(out.sum())
+
+
+def footprint(w, h, ox, oy, n):
+    foot = np.zeros((h, w), bool)
+    foot[oy:oy + 32 * n, ox - 32 * n:ox + 32 * n] = diamond_mask(n)
+    return foot
+
+
+def below(w, h, ox, oy, n):
+    """Pixels under the two lower edges of the footprint: never drawn."""
+    y, x = np.mgrid[0:h, 0:w]
+    return (y + .5 - oy) / 16 + np.abs(x + .5 - ox) / 32 > 2 * n
+
+
+def drop_strays(mask, foot):
+    """Remove what hangs by a corner only: pixels above the footprint without
+    a neighbour at one of their four sides, until none is left."""
+    while True:
+        p = np.pad(mask, 1)
+        near = p[:-2, 1:-1] | p[2:, 1:-1] | p[1:-1, :-2] | p[1:-1, 2:]
+        stray = mask & ~near & ~foot
+        if not stray.any():
+            return mask
+        mask = mask & ~stray
+
+
+def grass_canvas(w, h, ox, oy):
+    """Meadow of the two common grounds, as the bare cells around will show."""
+    g = [pair(0), pair(28)]
+    c = np.zeros((h, w, 4), np.uint8)
+    for X in range(-4, 6):
+        for Y in range(-4, 6):
+            blit(c, g[(X * 7 + Y * 3) % 5 == 0], ox - 32 + 32 * (X - Y), oy + 16 * (X + Y))
+    return c[..., :3] / 255.
+
+
+def finish(name, kind, opts):
+    """The finished drawing of a scene on the canvas of its kind.  Inside the
+    footprint the model stands on the same grass as the bare cells, and ground
+    shadows fade out over the last pixels before the rim, so that a plot shows
+    no edge; above the footprint a pixel is in when half covered."""
+    w, h, ox, oy, n, table = KINDS[kind]
+    t0 = time.time()
+    beauty, depth, obj, lit0 = samples_pov(name, kind, opts)
+    line = outline(depth, opts.get('thin', .5)) * obj
+    ink = 1 - opts.get('line', .62) * np.array([1, 1.03, 1.06])  # dark brown, not black
+    beauty = beauty * (1 - line[..., None] * (1 - ink))
+
+    cov = box_down(obj, SS)
+    c3 = cov[..., None]
+    col = box_down(beauty * obj[..., None], SS) / np.maximum(c3, 1e-6)
+    shade = box_down(beauty * (1 - obj[..., None]), SS) / np.maximum(1 - c3, 1e-6) / lit0
+    col = grade(col, opts.get('exposure', 1.0), opts.get('sat', 1.05), opts.get('contrast', 1.10))
+    col = unsharp(col, cov > .02, opts.get('sharp', .5), .7)
+
+    foot = footprint(w, h, ox, oy, n)
+    y, x = np.mgrid[0:h, 0:w]                   # distance to the rim, 0..1 over 5 pixels
+    rim = (16 * n - np.abs(x + .5 - ox) / 2 - np.abs(y + .5 - oy - 16 * n)) / 5
+    rim = np.clip(rim, 0, 1)[..., None]
+    if opts.get('fade', True):
+        shade = 1 - (1 - np.clip(shade, 0, 1)) * (rim * rim * (3 - 2 * rim))
+    else:
+        shade = np.clip(shade, 0, 1)
+    comp = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(grass_canvas(w, h, ox, oy)) * shade)
+    above = (cov >= .5) & ~foot & ~below(w, h, ox, oy, n)
+    if kind in ('flat', 'tile'):
+        above[:] = False
+    mask = drop_strays(foot | above, foot)
+    lost = spill(name, kind, opts, mask)
+    img = rgba(np.where(foot[..., None], comp, col), mask)
+    print('   %-10s %5.1f s%s' % (opts.get('as', name), time.time() - t0,
+          ', %d pixels of the model fall outside' % lost if lost else ''), flush=True)
+    return img, table

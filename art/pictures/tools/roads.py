@@ -1,0 +1,161 @@
+"""The seven road pictures and the two empty road patches of the walkers.
+
+Across a straight road the colour is a table of 64 entries.  A pixel of the
+road along y takes entry px + 2 py - 32 and one of the road along x entry
+2 py - px + 32, so the picture does not change at all under a shift of (2, -1)
+or (2, 1): a walker's frame, which carries its own piece of road, lands on
+stripes that match.  Bends and junctions use the same table by the distance
+from the grass corner they turn round."""
+import numpy as np
+from iso import *
+from grounds import grass
+
+# Across the road: from this part of the width on, this colour.  Side 0 is the
+# one that the sun reaches, up and left.
+PROFILE = [
+    (0.000, '6a933b'), (0.025, '557a2e'),
+    (0.055, '4b4437'), (0.085, 'e0d7c0'), (0.125, 'cdc3ab'), (0.150, '766e60'),
+    (0.175, '9a9282'), (0.235, '928a7a'), (0.290, '9c9484'), (0.330, '8b8373'),
+    (0.375, '9d9585'), (0.430, 'a59d8d'), (0.490, 'a09888'), (0.540, 'a79f8f'),
+    (0.600, '9d9585'), (0.640, '8a8272'), (0.685, '9a9282'), (0.750, '8f8777'),
+    (0.790, '989080'), (0.835, '6c6456'), (0.860, 'cbc1a8'), (0.900, 'aaa089'), (0.925, '443d31'),
+    (0.955, '557a2e'), (0.980, '6a933b'), (1.001, '6a933b')]
+STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
+                    # walker's block reaches a little way into the next cell
+
+EDGES = np.array([e for e, _ in PROFILE])
+COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
+
+
+def across(q):
+    """Colour (linear) at part q of the width, averaged over one of 64 steps."""
+    out = 0
+    for k in range(8):
+        qq = np.clip(q + ((k + .5) / 8 - .5) / 64, 0, .9999)
+        out = out + COLOURS[np.searchsorted(EDGES, qq, 'right') - 1]
+    return out / 8
+
+
+def table(q):
+    """Colour of the straight road, snapped to the 64 entries."""
+    return across((np.round(q * 64 - .5) + .5) / 64)
+
+
+def turn(a, b):
+    """Distance from a grass corner with (a, b) measured along the two edges
+    of the cell: straight along both edges at first, round further in."""
+    e = STRAIGHT
+    return np.where(np.minimum(a, b) <= e, np.maximum(a, b), e + np.hypot(a - e, b - e))
+
+
+def shaded(a, b, side_a, side_b):
+    """Road round a grass corner.  side_a, side_b tell on which side of the
+    profile the corner lies for the arm that crosses edge a or edge b; where
+    they differ the two sides melt into one another along the bend."""
+    d = turn(a, b)
+    col = lambda side: table(1 - d if side else d)
+    if side_a == side_b:
+        return col(side_a)
+    e = STRAIGHT
+    w = np.clip(np.arctan2(b - e, a - e) / (np.pi / 2), 0, 1)
+    w = np.where(b <= e, 0., np.where(a <= e, 1., w))
+    w = np.where((a <= e) & (b <= e), a > b, w)
+    w = (w * w * (3 - 2 * w))[..., None]
+    return col(side_b) * (1 - w) + col(side_a) * w
+
+
+# vertex of the cell: its (u, v), the profile side it lies on for a road along
+# y (its u) and for a road along x (its v)
+VERTEX = {'n': (0, 0), 'e': (1, 0), 's': (1, 1), 'w': (0, 1)}
+
+
+def bend(vertex, u, v):
+    cu, cv = VERTEX[vertex]
+    return shaded(np.abs(u - cu), np.abs(v - cv), cu, cv)
+
+
+def supersampled(paint, s=4):
+    """Mean of paint(u, v) over s x s points of every pixel."""
+    acc = 0
+    for sy in range(s):
+        for sx in range(s):
+            acc = acc + paint(*cell_uv(dx=(sx + .5) / s, dy=(sy + .5) / s))
+    return acc / (s * s)
+
+
+def straight(along):
+    u, v = cell_uv()
+    return rgba(to_srgb(table(u if along == 'y' else v)), diamond_mask())
+
+
+def exact_arms(img, arms):
+    """Near the edge of an arm the picture is the straight road, to the pixel."""
+    u, v = cell_uv()
+    for arm in arms:
+        near = {'y-': v, 'y+': 1 - v, 'x-': u, 'x+': 1 - u}[arm] < STRAIGHT
+        src = straight(arm[0])
+        near &= src[..., 3] > 0
+        img[near] = src[near]
+    return img
+
+
+def corner(vertex):
+    """Bend round one vertex; beyond the outer kerb the cell is meadow."""
+    cu, cv = VERTEX[vertex]
+    col = supersampled(lambda u, v: bend(vertex, u, v))
+    far = supersampled(lambda u, v: np.clip((turn(np.abs(u - cu), np.abs(v - cv)) - .985) / .02, 0, 1)[..., None])
+    meadow = to_lin(grass(11, 64)[..., :3] / 255.)
+    img = rgba(to_srgb(col * (1 - far) + meadow * far), diamond_mask())
+    return exact_arms(img, ('y-' if cv == 0 else 'y+', 'x-' if cu == 0 else 'x+'))
+
+
+def junction():
+    """Four arms; each quarter of the cell turns round its own vertex."""
+    def paint(u, v):
+        out = np.zeros(u.shape + (3,))
+        for name, (cu, cv) in VERTEX.items():
+            here = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
+            a, b = np.minimum(np.abs(u - cu), .5), np.minimum(np.abs(v - cv), .5)
+            d = np.minimum(turn(a, b), .5)
+            side = shaded_junction(a, b, d, cu, cv)
+            out[here] = side[here]
+        return out
+    img = rgba(to_srgb(supersampled(paint)), diamond_mask())
+    return img
+
+
+def shaded_junction(a, b, d, cu, cv):
+    col = lambda side: across(1 - d if side else d)
+    if cu == cv:
+        return col(cu)
+    w = np.where(a + b > 0, a / np.maximum(a + b, 1e-9), .5)[..., None]
+    return col(cu) * (1 - w) + col(cv) * w
+
+
+def plane(along, w, h, x0, y0):
+    """Block (x0, y0, w, h) of the straight road continued for ever, in the
+    pixels of the flat box."""
+    t = straight(along)
+    out = np.zeros((h, w, 4), np.uint8)
+    for k in range(-3, 4):
+        for j in range(-1, 2):
+            a, b = (k, j) if along == 'x' else (j, k)
+            blit(out, t, 32 * (a - b) - x0, 16 * (a + b) - y0)
+    return out
+
+
+def patch(along):
+    """The piece of road that a walker carries: 12 x 17 pixels."""
+    return plane(along, 12, 17, *{'y': (20, 6), 'x': (24, 2)}[along])
+
+
+def render():
+    save_pair(1, straight('y'))
+    save_pair(2, straight('x'))
+    save_pair(37, junction())
+    save_pair(49, corner('n'))
+    save_pair(50, corner('e'))
+    save_pair(51, corner('w'))
+    save_pair(52, corner('s'))
+    save_tile(56, patch('y'))
+    save_tile(57, patch('x'))
