@@ -1,0 +1,60 @@
+#include "platform/program_folder.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+
+#include "platform/files.h"
+#include "platform/system_error.h"
+
+namespace platform {
+
+namespace {
+
+// A variable that holds an absolute path; anything else in it counts as unset.
+std::string pathVariable(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr && value[0] == '/' ? value : "";
+}
+
+std::string userDataFolder() {
+  if (const std::string data = pathVariable("XDG_DATA_HOME"); !data.empty()) return data;
+  const std::string home = pathVariable("HOME");
+  return home.empty() ? "" : home + "/.local/share";
+}
+
+}  // namespace
+
+std::string executableFolder() {
+  char path[PATH_MAX];
+  const ssize_t n = readlink("/proc/self/exe", path, sizeof path);
+  if (n <= 0 || n == static_cast<ssize_t>(sizeof path)) return "";
+  const std::string file(path, static_cast<std::size_t>(n));
+  const std::size_t slash = file.rfind('/');
+  return slash == 0 ? "/" : file.substr(0, slash);
+}
+
+bool findProgramFolder(std::string& folder, std::string& error) {
+  folder = executableFolder();
+  if (!folder.empty() && folderWritable(folder)) return true;
+  const std::string data = userDataFolder();
+  if (data.empty()) {
+    error = "Neither the program's folder can be written nor is there a home folder";
+    return false;
+  }
+  folder = data + "/vellmoran";
+  if (!makeFolders(folder, error)) return false;
+  if (folderWritable(folder)) return true;
+  error = folder + ": files cannot be made in this folder";
+  return false;
+}
+
+bool enterFolder(const std::string& folder, std::string& error) {
+  if (chdir(folder.c_str()) == 0) return true;
+  error = folder + ": " + systemError(errno);
+  return false;
+}
+
+}  // namespace platform

@@ -1,0 +1,20 @@
+// Where the program lies and where it keeps its files.
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// Folder of the running executable, without a slash at its end; empty when the system does not
+/// tell.
+std::string executableFolder();
+
+/// The folder that games and progress are kept in, whole and writable: the executable's own where
+/// files can be made in it, else `vellmoran` in the user's data folder ($XDG_DATA_HOME, or
+/// ~/.local/share), which is made on first use. False, with what is wrong in `error`.
+bool findProgramFolder(std::string& folder, std::string& error);
+
+/// Makes a folder the working folder. False, with what is wrong in `error`.
+bool enterFolder(const std::string& folder, std::string& error);
+
+}  // namespace platform
