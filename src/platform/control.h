@@ -44,7 +44,7 @@ inline constexpr int kSingle = -1;
 /// One row of a screen's control table. Rows stand from the back to the front: a later row lies over
 /// an earlier one of the same parent.
 struct ControlDesign {
-  const char* name;
+  const char* name = nullptr;
   int index = kSingle;          // number within an array of controls, or kSingle
   ControlKind kind = ControlKind::label;
   int parent = kNoParent;       // row number of the frame or picture that holds it

@@ -1,0 +1,142 @@
+// The game: everything that describes one city, and the few values that outlive it.
+//
+// State is plain data. Cells are addressed (x, y); x runs right and down on the screen, y left and
+// down. Numbers that a saved game holds are `Number`, `Code` or `Flag`; what lives only while a game
+// is open is plain. A fresh object holds unset numbers and unset grids: a new game resets them
+// (core/new_game.h), a saved game or a city handed over replaces them.
+#pragma once
+
+#include "core/grid.h"
+#include "core/number.h"
+
+namespace core {
+
+/// Cells per direction that the map draws and scans: 0 .. 30.
+inline constexpr int kBoardSize = 31;
+inline constexpr int kLastCell = kBoardSize - 1;
+inline constexpr int kServices = 5;
+inline constexpr int kWalkers = 10;
+inline constexpr int kTools = 10;
+
+/// The numbers of the services, which are also those of the access views.
+enum Service { kMarket = 1, kSchool = 2, kTavern = 3, kChurch = 4, kDoctor = 5 };
+
+/// What the menu owns: values that outlive a game and speak between the two screens.
+struct ProgramValues {
+  Number gMission;    // 1..10 campaign, 11 for one moment, 15 open play, 16 demonstration, 20..29 puzzles
+  Number gYear;       // calendar year, from 1715
+  Number gMapSize;    // side S of the play square, even, 4..28
+  Number gFertility;  // food factor of farms: 1.2, 1 or 0.8
+  Number gSoundOn;    // sound effects wanted, 1 or 0
+
+  int gStartMoney = 0;       // money choice: 1, 2 or 3
+  int gNewMap = 0;           // the game screen must build a new map
+  int gContinueMission = 0;  // the game screen must take over the city of the mission before
+  int gLoadPending = 0;      // the game screen opens on the load panel
+  int gBackToMenu = 0;       // a mission was won: the menu shows the briefing
+  int gReturnPuzzle = 0;     // a puzzle level ended: the menu shows the list of levels
+  int gReplayedMission = 0;  // an earlier mission was won again; never cleared
+  double gOpenDifficulty = 0;
+  double gReservedNumber = 0;
+  Row<double, 1, 10> puzzleDone;  // 1 for a solved level
+
+  int gScreenW = 0;
+  double gScreenH = 0;
+  int gResolutionSaved = 0;
+
+  int selectedMission = 0;  // mission on the briefing panel, one below its number; 10: closing text
+  double mapSizeFactor = 1;
+  double fertilityFactor = 1;
+  double moneyFactor = 1;
+};
+
+struct GameState {
+  // Grids. A saved game holds all of them but tileImage.
+  CellGrid<Code> tileCode;                       // what stands on a cell (core/vocabulary.h)
+  Table<std::int16_t, 0, 35, 0, 35> tileImage;   // number of the picture drawn for a cell
+  CellGrid<Number> buildingId;                   // the same for all cells of one building
+  CellGrid<Number> cellCapacity;                 // people that one residence cell holds
+  CellGrid<Flag> marketCover, schoolCover, tavernCover, churchCover, doctorCover;
+  CellGrid<Flag> cellServices;                   // services that reach the cell, 0..5
+  LayerGrids<Flag> roadService;                  // [k]: road cell carries service k
+  LayerGrids<Flag> cellService;                  // [k]: residence cell has service k by road
+  CellGrid<Flag> cellTall;                       // drawn in the tall layer
+  CellGrid<Flag> cellDirty;                      // to be repainted by the next redraw
+
+  Table<Number, -14, 100, -4, 28> history;       // (column, row): rows 1..14, a column a month
+  Row<Number, 1, 10> toolUnlocked;               // 1 church, 2 school, 3 doctor, 4 tavern
+
+  // Walkers, slots 1..10; kept only while a game is open.
+  Row<int, 1, kWalkers> walkerX, walkerY, walkerDir, walkerFrame, walkerPxX, walkerPxY, walkerCellDX,
+      walkerCellDY, walkerActive, walkerDone;
+
+  // Money, food, people.
+  Number gold, food, population, housingCapacity, farmCount, taxRate;
+  Number famineState;  // 0 none, 1 a rebuild is due at the month roll, 2 starving and rebuilt
+  Number marketRating, schoolRating, tavernRating, churchRating, doctorRating;  // whole percent
+  Number taxPerTick, maintenancePerTick, maintenancePerMonth;
+  Number taxThisMonth, maintenanceThisMonth, constructionThisMonth;
+
+  // Time.
+  Number month, tickOfMonth, monthLength, ticksPerMonth, historyIndex;
+
+  // Hand and view.
+  Number nextBuildingId, currentTool, cellX, cellY, buildingHousing, roadNeighbourCount, overlayView;
+  Number walkersOn, farmAnimationOn, newsTicks, hoverLabel, freeWalkerSlot, cellOriginX, cellOriginY;
+  Number churchUnlocked, schoolUnlocked, doctorUnlocked, tavernUnlocked;
+  int demolishFlag = 0;
+  int cursorFootprint = 0;
+  int lastPaletteTool = 0;
+
+  // Working numbers that a saved game names; they carry nothing from one handler to the next.
+  Number i, j, k, l, scratchCount, withAccess, withoutAccess, ratingIndex, reachedMission;
+  Row<Number, 1, 15> reserved;
+
+  // Earthquake.
+  int quakeShakePhase = 0, quakeShakeTicks = 0, quakeReportPending = 0;
+  double populationBeforeQuake = 0;
+
+  // Cursor and scrolling, in pixels.
+  int cursorX = 0, cursorY = 0, lastCursorX = 0, lastCursorY = 0, scrollX = 0, scrollY = 0;
+  double cursorPxX = 0, cursorPxY = 0, lastCellPxX = 0, lastCellPxY = 0;
+  int cursorHidden = 0, cursorRed = 0, cursorGreen = 0;
+
+  // Work values of drawing and of the walkers' spawn.
+  int drawTileWidth = 0, drawTileHeight = 0, drawBoardSize = 0, drawOffsetY = 0;
+  int blitCount = 0;
+  int laneCount = 0, laneCount2 = 0, activeWalkers = 0, spawnX = 0, spawnY = 0;
+
+  // Music and demonstration.
+  int musicTrack = 0, musicAuto = 0;
+  int demoStep = 0, demoTool = 0;
+};
+
+/// First cell of the play square; its last is mapMargin + gMapSize.
+inline double mapMargin(const ProgramValues& values) { return (30 - values.gMapSize) / 2; }
+
+/// Cover grid of service k, 1..5.
+inline CellGrid<Flag>& coverGrid(GameState& game, int k) {
+  switch (k) {
+    case kMarket: return game.marketCover;
+    case kSchool: return game.schoolCover;
+    case kTavern: return game.tavernCover;
+    case kChurch: return game.churchCover;
+    default: return game.doctorCover;
+  }
+}
+inline const CellGrid<Flag>& coverGrid(const GameState& game, int k) {
+  return coverGrid(const_cast<GameState&>(game), k);
+}
+
+/// Rating of service k, 1..5.
+inline Number& rating(GameState& game, int k) {
+  switch (k) {
+    case kMarket: return game.marketRating;
+    case kSchool: return game.schoolRating;
+    case kTavern: return game.tavernRating;
+    case kChurch: return game.churchRating;
+    default: return game.doctorRating;
+  }
+}
+
+}  // namespace core

@@ -1,0 +1,53 @@
+// Numbers that know whether they were ever given a value.
+//
+// A saved game keeps the difference: a value that nothing was ever given is an empty field in the
+// file, is read back as unset, and goes out empty again. Wherever it is used it counts as 0.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <limits>
+
+namespace core {
+
+/// A general number: floating-point, as money and food need it; whole numbers are exact in it.
+class Number {
+ public:
+  constexpr Number() = default;
+  constexpr Number(double value) : value_(value) {}  // NOLINT: used as a plain number
+
+  constexpr operator double() const { return isSet() ? value_ : 0.0; }  // NOLINT
+  constexpr bool isSet() const { return std::bit_cast<std::uint64_t>(value_) != kUnset; }
+  constexpr void unset() { value_ = std::bit_cast<double>(kUnset); }
+  /// The value as a whole number; what is stored must be whole and small enough.
+  constexpr int whole() const { return static_cast<int>(static_cast<double>(*this)); }
+
+  constexpr Number& operator+=(double d) { return *this = *this + d; }
+  constexpr Number& operator-=(double d) { return *this = *this - d; }
+
+ private:
+  // A NaN that no arithmetic yields.
+  static constexpr std::uint64_t kUnset = 0x7FF8'0000'5645'4C4Du;
+  double value_ = std::bit_cast<double>(kUnset);
+};
+
+/// A small whole number of a grid: a code, a flag, a count. Its lowest value stands for unset.
+template <class T>
+class Whole {
+ public:
+  constexpr Whole() = default;
+  constexpr Whole(int value) : value_(static_cast<T>(value)) {}  // NOLINT: used as a plain number
+
+  constexpr operator int() const { return value_ == kUnset ? 0 : value_; }  // NOLINT
+  constexpr bool isSet() const { return value_ != kUnset; }
+  constexpr void unset() { value_ = kUnset; }
+
+ private:
+  static constexpr T kUnset = std::numeric_limits<T>::min();
+  T value_ = kUnset;
+};
+
+using Code = Whole<std::int16_t>;  // tile codes
+using Flag = Whole<std::int8_t>;   // flags and small counts
+
+}  // namespace core

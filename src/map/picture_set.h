@@ -1,0 +1,43 @@
+// The pictures of the map by number.
+//
+// picTile(n) is picture n on pure white, picMask(n) the same picture on pure black; SRCAND of the
+// first and SRCPAINT of the second draw it with its background transparent. At 22 and 48 the two
+// arrays hold different pictures; picture 21 is the working slot of the walkers.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+
+#include "platform/surface.h"
+
+namespace map {
+
+inline constexpr int kPictures = 63;  // numbers 0 .. 62
+
+struct PictureSet {
+  std::array<platform::Surface, kPictures> picTile;
+  std::array<platform::Surface, kPictures> picMask;
+};
+
+/// Where the file of a picture stands below the folder of the map pictures, and which of the two
+/// arrays it fills.
+struct PictureFile {
+  int number;
+  enum class Kind {
+    pair,  // "pair/NN.png": one picture with binary transparency fills both
+    tile,  // "tile/NN.png": opaque, fills picTile
+    mask,  // "mask/NN.png": opaque, fills picMask
+    both,  // "tile/NN.png": opaque, fills both alike
+  } kind;
+  platform::Size size;
+};
+
+/// The files of the whole set.
+std::span<const PictureFile> pictureFiles();
+
+/// Loads the whole set from `folder`. False, with the name of the file and what is wrong in `error`,
+/// when a picture is missing, damaged or of another size.
+bool loadPictures(PictureSet& set, const std::string& folder, std::string& error);
+
+}  // namespace map

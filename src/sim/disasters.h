@@ -1,0 +1,41 @@
+// What strikes the city: the earthquake of mission 3, the theft of mission 2, and the loss of
+// buildings that a demolished road has cut off.
+#pragma once
+
+#include "core/game_state.h"
+#include "platform/random.h"
+
+namespace sim {
+
+/// Whether the month that just began brings the earthquake.
+bool earthquakeDue(const core::GameState& game, const core::ProgramValues& values);
+/// Begins the shake. The caller switches Timer12 on and shows "EARTHQUAKE!!!".
+void beginEarthquake(core::GameState& game);
+/// One tick of the shake: how far the picture moves (32 pixels left or right, negative is left), and
+/// whether the shake is over and the collapse follows.
+struct ShakeStep {
+  int moveX = 0;
+  bool over = false;
+};
+ShakeStep shake(core::GameState& game);
+/// Brings buildings down; each standing cell of a building has one chance in ten. Clears the layers of
+/// the services that still have a standing cell when the scan comes to it. No rebuild: the caller
+/// runs the four rebuilds, marks all cells, redraws, and calls endEarthquake.
+void collapse(core::GameState& game, platform::Random& random);
+void endEarthquake(core::GameState& game);
+
+/// Whether the month that just began brings the theft.
+bool theftDue(const core::GameState& game, const core::ProgramValues& values);
+/// Takes a quarter of the gold; returns the amount to report, floor(gold * 0.25).
+double steal(core::GameState& game);
+
+/// Whether any building but farms has lost its road.
+bool anyBuildingWithoutRoad(const core::GameState& game);
+/// Whether the building with its anchor (or the doctor) at (x, y) stands beside a road. False also
+/// for a cell that is neither an anchor nor a doctor.
+bool hasRoad(const core::GameState& game, int x, int y);
+/// Removes every building without road: codes, images and tall flags of its cells; the 7x7 cells
+/// around each are marked dirty.
+void removeBuildingsWithoutRoad(core::GameState& game);
+
+}  // namespace sim
