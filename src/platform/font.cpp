@@ -1,0 +1,194 @@
+#include "platform/font.h"
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_MODULE_H
+
+#include <array>
+#include <cstring>
+#include <vector>
+
+#include "platform/utf8.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int kSizes = 4;
+constexpr std::array<int, kSizes> kPixels{12, 15, 16, 19};
+constexpr std::array<int, kSizes> kLineHeights{14, 18, 19, 22};
+
+constexpr char32_t kFirstPrepared = 0x20;
+constexpr char32_t kLastPrepared = 0x7E;
+constexpr std::size_t kPreparedPerSize = kLastPrepared - kFirstPrepared + 1;
+constexpr std::size_t kOnDemand = 256;  // other characters kept at a time, all sizes together
+
+std::size_t number(FontSize size) {
+  return static_cast<std::size_t>(size);
+}
+
+struct Glyph {
+  char32_t code = 0;
+  int advance = 0;
+  int left = 0;  // from the pen to the bitmap
+  int top = 0;   // from the base line up to the bitmap's first row
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint8_t> cover;  // one byte a pixel
+};
+
+/// What stands for a character that the font has not: an empty box of letter height.
+Glyph emptyBox(int pixels) {
+  Glyph box;
+  box.width = pixels / 2;
+  box.height = pixels * 2 / 3;
+  box.advance = box.width + 2;
+  box.left = 1;
+  box.top = box.height;
+  box.cover.assign(static_cast<std::size_t>(box.width * box.height), 0);
+  for (int y = 0; y < box.height; ++y) {
+    for (int x = 0; x < box.width; ++x) {
+      const bool rim = x == 0 || y == 0 || x == box.width - 1 || y == box.height - 1;
+      if (rim) box.cover[static_cast<std::size_t>(y * box.width + x)] = 255;
+    }
+  }
+  return box;
+}
+
+}  // namespace
+
+int lineHeight(FontSize size) {
+  return kLineHeights[number(size)];
+}
+
+struct Font::Implementation {
+  FT_Library library = nullptr;
+  FT_Face face = nullptr;
+  std::size_t faceSize = kSizes;   // the size the face is set to
+  std::array<int, kSizes> base{};  // from the top of a line to its base line
+  std::array<std::array<Glyph, kPreparedPerSize>, kSizes> prepared;
+  struct Kept {
+    std::size_t size = 0;
+    Glyph glyph;
+  };
+  std::vector<Kept> kept;
+  std::size_t oldest = 0;  // the one to give way when all places are taken
+
+  ~Implementation() {
+    if (face != nullptr) FT_Done_Face(face);
+    if (library != nullptr) FT_Done_FreeType(library);
+  }
+
+  const char* start(const std::string& path);
+  Glyph render(char32_t code, std::size_t size);
+  const Glyph& glyph(char32_t code, std::size_t size);
+};
+
+/// Opens the font and prepares its plain letters. Returns what is wrong, or nothing.
+const char* Font::Implementation::start(const std::string& path) {
+  if (FT_Init_FreeType(&library) != 0) return "the text library does not start";
+  // Bold letters at these sizes look half bold unless their stems are darkened.
+  FT_Bool no = 0;
+  FT_Property_Set(library, "cff", "no-stem-darkening", &no);
+  const FT_Error opened = FT_New_Face(library, path.c_str(), 0, &face);
+  if (opened == FT_Err_Cannot_Open_Resource) return "cannot be opened";
+  if (opened != 0) return "not a usable font";
+  if (!FT_IS_SCALABLE(face)) return "a font without outlines";
+  for (std::size_t size = 0; size < kSizes; ++size) {
+    for (char32_t code = kFirstPrepared; code <= kLastPrepared; ++code) {
+      prepared[size][code - kFirstPrepared] = render(code, size);
+    }
+    // Capitals stand in the middle of the line, so that captions stand in the middle of buttons.
+    const int capital = prepared[size]['H' - kFirstPrepared].top;
+    base[size] = (kLineHeights[size] + capital + 1) / 2;
+  }
+  kept.reserve(kOnDemand);
+  return nullptr;
+}
+
+Glyph Font::Implementation::render(char32_t code, std::size_t size) {
+  if (faceSize != size) {
+    FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(kPixels[size]));
+    faceSize = size;
+  }
+  Glyph glyph;
+  const FT_UInt index = FT_Get_Char_Index(face, code);
+  if (index == 0 || FT_Load_Glyph(face, index, FT_LOAD_RENDER | FT_LOAD_TARGET_NORMAL) != 0 ||
+      face->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY) {
+    glyph = emptyBox(kPixels[size]);
+  } else {
+    const FT_Bitmap& bitmap = face->glyph->bitmap;
+    glyph.advance = static_cast<int>((face->glyph->advance.x + 32) >> 6);
+    glyph.left = face->glyph->bitmap_left;
+    glyph.top = face->glyph->bitmap_top;
+    glyph.width = static_cast<int>(bitmap.width);
+    glyph.height = static_cast<int>(bitmap.rows);
+    glyph.cover.resize(static_cast<std::size_t>(glyph.width * glyph.height));
+    for (int y = 0; y < glyph.height && glyph.width > 0; ++y) {
+      std::memcpy(&glyph.cover[static_cast<std::size_t>(y * glyph.width)],
+                  bitmap.buffer + y * bitmap.pitch, static_cast<std::size_t>(glyph.width));
+    }
+  }
+  glyph.code = code;
+  return glyph;
+}
+
+const Glyph& Font::Implementation::glyph(char32_t code, std::size_t size) {
+  if (code >= kFirstPrepared && code <= kLastPrepared) return prepared[size][code - kFirstPrepared];
+  for (const Kept& one : kept) {
+    if (one.size == size && one.glyph.code == code) return one.glyph;
+  }
+  if (kept.size() < kOnDemand) return kept.emplace_back(Kept{size, render(code, size)}).glyph;
+  Kept& place = kept[oldest];
+  oldest = (oldest + 1) % kOnDemand;
+  place = {size, render(code, size)};
+  return place.glyph;
+}
+
+Font::Font() : implementation_(std::make_unique<Implementation>()) {}
+Font::~Font() = default;
+
+std::unique_ptr<Font> Font::open(const std::string& path, std::string& error) {
+  std::unique_ptr<Font> font(new Font);
+  if (const char* wrong = font->implementation_->start(path)) {
+    error = path + ": " + wrong;
+    return nullptr;
+  }
+  return font;
+}
+
+int Font::width(std::string_view text, FontSize size) {
+  int pen = 0;
+  while (!text.empty()) pen += implementation_->glyph(takeCharacter(text), number(size)).advance;
+  return pen;
+}
+
+void Font::draw(Surface& target, const Rect& clip, int x, int y, std::string_view text,
+                FontSize size, Color color) {
+  const Rect area = intersection(clip, target.bounds());
+  const int base = y + implementation_->base[number(size)];
+  int pen = x;
+  while (!text.empty() && pen < area.right()) {
+    const Glyph& glyph = implementation_->glyph(takeCharacter(text), number(size));
+    const Rect box{pen + glyph.left, base - glyph.top, glyph.width, glyph.height};
+    const Rect seen = intersection(box, area);
+    for (int row = seen.top; row < seen.bottom(); ++row) {
+      const std::uint8_t* cover =
+          &glyph
+               .cover[static_cast<std::size_t>((row - box.top) * box.width + seen.left - box.left)];
+      std::uint8_t* pixel = target.row(row) + static_cast<std::size_t>(seen.left) * 3;
+      for (int i = 0; i < seen.width; ++i, pixel += 3) {
+        const int part = cover[i];
+        const auto blend = [part](std::uint8_t& channel, int to) {
+          channel = static_cast<std::uint8_t>((channel * (255 - part) + to * part + 127) / 255);
+        };
+        blend(pixel[0], color.r);
+        blend(pixel[1], color.g);
+        blend(pixel[2], color.b);
+      }
+    }
+    pen += glyph.advance;
+  }
+}
+
+}  // namespace platform

@@ -1,0 +1,112 @@
+#include "platform/png.h"
+
+#include <png.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace platform {
+
+namespace {
+
+constexpr png_uint_32 kLargestSide = 4096;
+
+/// Reads a file as rows of red, green, blue, alpha bytes without padding.
+bool readRgba(const std::string& path, std::vector<std::uint8_t>& into, Size& size,
+              std::string& error) {
+  std::FILE* file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr) {
+    error = path + ": " + std::strerror(errno);
+    return false;
+  }
+  png_image image{};
+  image.version = PNG_IMAGE_VERSION;
+  bool good = png_image_begin_read_from_stdio(&image, file) != 0;
+  if (good && (image.width > kLargestSide || image.height > kLargestSide)) {
+    std::snprintf(image.message, sizeof image.message, "larger than 4096 x 4096 pixels");
+    good = false;
+  }
+  if (good) {
+    image.format = PNG_FORMAT_RGBA;
+    into.resize(PNG_IMAGE_SIZE(image));
+    good = png_image_finish_read(&image, nullptr, into.data(), 0, nullptr) != 0;
+  }
+  size = {static_cast<int>(image.width), static_cast<int>(image.height)};
+  if (!good) error = path + ": not a usable PNG picture: " + image.message;
+  png_image_free(&image);
+  std::fclose(file);
+  return good;
+}
+
+/// Calls put(x, y, the four bytes of the pixel) for every pixel.
+template <typename Put>
+void eachPixel(const std::vector<std::uint8_t>& rgba, Size size, Put put) {
+  const std::uint8_t* pixel = rgba.data();
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x, pixel += 4) put(x, y, pixel);
+  }
+}
+
+}  // namespace
+
+bool readPng(const std::string& path, Surface& into, std::string& error) {
+  std::vector<std::uint8_t> rgba;
+  Size size;
+  if (!readRgba(path, rgba, size, error)) return false;
+  Surface read(size.width, size.height);
+  eachPixel(rgba, size,
+            [&](int x, int y, const std::uint8_t* p) { std::memcpy(read.row(y) + x * 3, p, 3); });
+  into = std::move(read);
+  return true;
+}
+
+bool readPngPair(const std::string& path, Surface& onWhite, Surface& onBlack, std::string& error) {
+  std::vector<std::uint8_t> rgba;
+  Size size;
+  if (!readRgba(path, rgba, size, error)) return false;
+  Surface white(size.width, size.height);
+  Surface black(size.width, size.height);
+  white.clear(kWhite);
+  eachPixel(rgba, size, [&](int x, int y, const std::uint8_t* p) {
+    if (p[3] < 128) return;
+    std::memcpy(white.row(y) + x * 3, p, 3);
+    std::memcpy(black.row(y) + x * 3, p, 3);
+  });
+  onWhite = std::move(white);
+  onBlack = std::move(black);
+  return true;
+}
+
+bool readPngRgba(const std::string& path, std::vector<std::uint8_t>& into, Size& size,
+                 std::string& error) {
+  std::vector<std::uint8_t> rgba;
+  Size read;
+  if (!readRgba(path, rgba, read, error)) return false;
+  into = std::move(rgba);
+  size = read;
+  return true;
+}
+
+bool writePng(const std::string& path, const Surface& surface, std::string& error) {
+  std::FILE* file = std::fopen(path.c_str(), "wb");
+  if (file == nullptr) {
+    error = path + ": " + std::strerror(errno);
+    return false;
+  }
+  png_image image{};
+  image.version = PNG_IMAGE_VERSION;
+  image.width = static_cast<png_uint_32>(surface.width());
+  image.height = static_cast<png_uint_32>(surface.height());
+  image.format = PNG_FORMAT_RGB;
+  const bool written =
+      png_image_write_to_stdio(&image, file, 0, surface.row(0),
+                               static_cast<png_int_32>(surface.stride()), nullptr) != 0;
+  const bool closed = std::fclose(file) == 0;
+  if (written && closed) return true;
+  error = path + ": " + (written ? std::strerror(errno) : image.message);
+  std::remove(path.c_str());
+  return false;
+}
+
+}  // namespace platform

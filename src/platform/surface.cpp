@@ -1,0 +1,157 @@
+#include "platform/surface.h"
+
+#include <cstring>
+
+namespace platform {
+
+namespace {
+
+constexpr int kBytesPerPixel = 3;
+
+std::size_t bytes(int pixels) {
+  return static_cast<std::size_t>(pixels) * kBytesPerPixel;
+}
+
+// The rows are walked byte by byte in plain loops: the compiler makes vector code of them.
+
+void copyRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
+  std::memcpy(to, from, count);
+}
+
+void andRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) to[i] = static_cast<std::uint8_t>(to[i] & from[i]);
+}
+
+void orRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) to[i] = static_cast<std::uint8_t>(to[i] | from[i]);
+}
+
+void pairRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict tile,
+             const std::uint8_t* __restrict mask, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    to[i] = static_cast<std::uint8_t>((to[i] & tile[i]) | mask[i]);
+  }
+}
+
+using RowOperation = void (*)(std::uint8_t*, const std::uint8_t*, std::size_t);
+
+RowOperation rowOperation(std::uint32_t operation) {
+  switch (operation) {
+    case SRCCOPY:
+      return copyRow;
+    case SRCAND:
+      return andRow;
+    case SRCPAINT:
+      return orRow;
+    default:
+      return nullptr;
+  }
+}
+
+/// The pixels of a target box that lie on the target and have a pixel of the source behind them.
+Rect copied(const Surface& target, const Rect& box, const Surface& source, int sourceX,
+            int sourceY) {
+  const Rect behind = moved(source.bounds(), box.left - sourceX, box.top - sourceY);
+  return intersection(intersection(box, target.bounds()), behind);
+}
+
+}  // namespace
+
+// A stride of whole 16 bytes begins every row where a vector load likes it: plain `new` aligns
+// to 16.
+Surface::Surface(int width, int height)
+    : width_(width),
+      height_(height),
+      stride_((bytes(width) + 15) / 16 * 16),
+      pixels_(new std::uint8_t[stride_ * static_cast<std::size_t>(height)]()) {}
+
+Color Surface::pixel(int x, int y) const {
+  if (!bounds().contains({x, y})) return kBlack;
+  const std::uint8_t* p = row(y) + bytes(x);
+  return {p[0], p[1], p[2]};
+}
+
+void Surface::setPixel(int x, int y, Color color) {
+  if (!bounds().contains({x, y})) return;
+  std::uint8_t* p = row(y) + bytes(x);
+  p[0] = color.r;
+  p[1] = color.g;
+  p[2] = color.b;
+}
+
+void Surface::fill(const Rect& rect, Color color) {
+  const Rect area = intersection(rect, bounds());
+  if (area.empty()) return;
+  std::uint8_t* first = row(area.top) + bytes(area.left);
+  if (color.r == color.g && color.g == color.b) {
+    std::memset(first, color.r, bytes(area.width));
+  } else {
+    for (std::uint8_t* p = first; p != first + bytes(area.width); p += kBytesPerPixel) {
+      p[0] = color.r;
+      p[1] = color.g;
+      p[2] = color.b;
+    }
+  }
+  for (int y = area.top + 1; y < area.bottom(); ++y) {
+    std::memcpy(row(y) + bytes(area.left), first, bytes(area.width));
+  }
+}
+
+Surface Surface::clone() const {
+  Surface copy(width_, height_);
+  if (!empty()) std::memcpy(copy.row(0), row(0), stride_ * static_cast<std::size_t>(height_));
+  return copy;
+}
+
+void BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+            int sourceX, int sourceY, std::uint32_t operation) {
+  const RowOperation run = rowOperation(operation);
+  const Rect area = copied(target, {x, y, width, height}, source, sourceX, sourceY);
+  if (run == nullptr || area.empty()) return;
+  for (int row = area.top; row < area.bottom(); ++row) {
+    run(target.row(row) + bytes(area.left),
+        source.row(row - y + sourceY) + bytes(area.left - x + sourceX), bytes(area.width));
+  }
+}
+
+void StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+                int sourceX, int sourceY, int sourceWidth, int sourceHeight,
+                std::uint32_t operation) {
+  if (width == sourceWidth && height == sourceHeight) {
+    BitBlt(target, x, y, width, height, source, sourceX, sourceY, operation);
+    return;
+  }
+  const RowOperation run = rowOperation(operation);
+  const Rect area = intersection({x, y, width, height}, target.bounds());
+  if (run == nullptr || area.empty() || sourceWidth <= 0 || sourceHeight <= 0) return;
+  // The source pixel whose middle lies nearest to the middle of the target pixel.
+  const auto nearest = [](int offset, int size, int sourceSize) {
+    return static_cast<int>((2LL * offset + 1) * sourceSize / (2LL * size));
+  };
+  for (int row = area.top; row < area.bottom(); ++row) {
+    const int fromRow = sourceY + nearest(row - y, height, sourceHeight);
+    if (fromRow < 0 || fromRow >= source.height()) continue;
+    for (int column = area.left; column < area.right(); ++column) {
+      const int fromColumn = sourceX + nearest(column - x, width, sourceWidth);
+      if (fromColumn < 0 || fromColumn >= source.width()) continue;
+      run(target.row(row) + bytes(column), source.row(fromRow) + bytes(fromColumn), bytes(1));
+    }
+  }
+}
+
+void blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
+              const Surface& mask) {
+  const Rect area = copied(target, {x, y, width, height}, tile, 0, 0);
+  if (area != copied(target, {x, y, width, height}, mask, 0, 0)) {
+    BitBlt(target, x, y, width, height, tile, 0, 0, SRCAND);
+    BitBlt(target, x, y, width, height, mask, 0, 0, SRCPAINT);
+    return;
+  }
+  for (int row = area.top; row < area.bottom(); ++row) {
+    const std::size_t from = bytes(area.left - x);
+    pairRow(target.row(row) + bytes(area.left), tile.row(row - y) + from, mask.row(row - y) + from,
+            bytes(area.width));
+  }
+}
+
+}  // namespace platform
