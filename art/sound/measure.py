@@ -1,0 +1,61 @@
+"""Renders MIDI files through the soundfont of the game and measures levels."""
+import math
+import os
+import subprocess
+import wave
+
+import numpy as np
+
+FONT = '/usr/share/sounds/sf2/TimGM6mb.sf2'
+RATE = 44100
+
+
+def render(midi, gain, folder):
+    """The file as stereo samples, one row for each sample."""
+    out = os.path.join(folder, 'render.wav')
+    subprocess.run(['nice', 'fluidsynth', '-ni', '-q', '-g', str(gain), '-r', str(RATE), '-T', 'wav',
+                    '-F', out, FONT, midi], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    return read(out)
+
+
+def read(path):
+    with wave.open(path) as f:
+        data = np.frombuffer(f.readframes(f.getnframes()), '<i2')
+        return data.reshape(-1, f.getnchannels()).astype(float) / 32768
+
+
+def db(value):
+    return 20 * math.log10(max(value, 1e-7))
+
+
+def weighted(sound):
+    """The K weighting of ITU-R BS.1770: a high shelf and a high pass, as a response over frequency."""
+    n = 1 << math.ceil(math.log2(len(sound) + 8192))
+    # The published coefficients are for 48 kHz: evaluate them at that rate's own frequencies.
+    z = np.exp(-2j * np.pi * np.arange(n // 2 + 1) * RATE / n / 48000)
+    shelf = (1.53512485958697 - 2.69169618940638 * z + 1.19839281085285 * z * z) / \
+            (1 - 1.69065929318241 * z + .73248077421585 * z * z)
+    high = (1 - 2 * z + z * z) / (1 - 1.99004745483398 * z + .99007225036621 * z * z)
+    out = [np.fft.irfft(np.fft.rfft(sound[:, c], n) * shelf * high, n)[:len(sound)]
+           for c in range(sound.shape[1])]
+    return np.stack(out, 1)
+
+
+def loudness(sound):
+    """Integrated loudness in LUFS: blocks of 400 ms, gated at -70 and at 10 below the mean."""
+    power = (weighted(sound) ** 2).sum(1)
+    total = np.concatenate([[0], np.cumsum(power)])
+    block, hop = int(.4 * RATE), int(.1 * RATE)
+    starts = np.arange(0, len(power) - block, hop)
+    mean = (total[starts + block] - total[starts]) / block
+    level = -.691 + 10 * np.log10(mean + 1e-12)
+    gate = -.691 + 10 * math.log10(mean[level > -70].mean()) - 10
+    return -.691 + 10 * math.log10(mean[level > max(gate, -70)].mean())
+
+
+def silences(sound, floor=-50):
+    """The longest stretch below the floor before the last sound, and the time of the last sound."""
+    loud = np.flatnonzero(np.abs(sound).max(1) > 10 ** (floor / 20))
+    gaps = np.diff(loud)
+    last = np.flatnonzero(np.abs(sound).max(1) > 10 ** (-60 / 20))[-1]
+    return max(gaps.max(), loud[0]) / RATE, last / RATE
