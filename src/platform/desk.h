@@ -1,9 +1,10 @@
-// The desk brings the pointer and the keys to the controls of the open screen, and keeps what floats
-// above every screen: message boxes, the open part of a drop-down list, tooltips.
+// The desk brings the pointer and the keys to the controls of the open screen, and keeps what
+// floats above every screen: message boxes, the open part of a drop-down list, tooltips.
 //
-// A press goes down on the topmost visible control; the control that was pressed gets the click when
-// the button goes up over it. While a message box stands, it alone takes presses and keys. Drop-down
-// lists, file lists, check boxes and text boxes work by themselves and tell the screen afterwards.
+// A press goes down on the topmost visible control; the control that was pressed gets the click
+// when the button goes up over it. While a message box stands, it alone takes presses and keys.
+// Drop-down lists, file lists, check boxes and text boxes work by themselves and tell the screen
+// afterwards.
 #pragma once
 
 #include <array>
@@ -18,7 +19,8 @@ namespace platform {
 class FormListener {
  public:
   virtual ~FormListener() = default;
-  /// The pointer moved over a control; x and y in its own pixels (for a canvas: pixels of its surface).
+  /// The pointer moved over a control; x and y in its own pixels (for a canvas: pixels of its
+  /// surface).
   virtual void onMouseMove(int id, int x, int y) = 0;
   /// The button went down on a control.
   virtual void onMouseDown(int id, int x, int y) = 0;
@@ -62,21 +64,24 @@ class Desk {
   const MessageBox* box() const { return boxCount_ > 0 ? &boxes_[0] : nullptr; }
   void closeBox();
 
-  /// The topmost visible control at a screen pixel that would get a press: a row of the table; -1 for
-  /// the bare screen. An open drop-down list counts as its control.
+  /// The topmost visible control at a screen pixel that would get a press: a row of the table; -1
+  /// for the bare screen. An open drop-down list counts as its control.
   int topmost(Point screen) const;
-  /// Picks an entry of a drop-down or file list, as a click on that entry would. False when there is
-  /// no such entry.
+  /// Picks an entry of a drop-down or file list, as a click on that entry would. False when there
+  /// is no such entry.
   bool choose(int id, std::string_view entry);
 
   // For the painter.
-  int pressed() const { return pressed_; }      // control under the held button, or -1
-  int focus() const { return focus_; }          // text box that is typed into, or -1
-  std::size_t caret() const { return caret_; }  // byte position of the caret in it
-  int openList() const { return openList_; }    // drop-down list that is open, or -1
-  Rect openListPlace() const;                   // its open part on the screen
+  int pressed() const;         // control that is held down by the pointer upon it, or -1
+  int focus() const;           // text box that is typed into, or -1
+  std::size_t caret() const;   // byte position of the caret in it
+  int openList() const;        // drop-down list that is open, or -1
+  Rect openListPlace() const;  // its open part on the screen
   int openListRow() const { return openListRow_; }  // entry under the pointer, or -1
-  bool boxButtonDown() const { return boxPressed_; }
+  bool boxButtonDown() const;
+  int hovered() const { return hovered_; }  // control under the pointer, whose tooltip shows
+  /// Grows with every `open`: tells a new screen from an old one at the same address.
+  int opened() const { return opened_; }
   /// The tooltip to show now, or null. `now` in milliseconds; `tooltipDue` says when to ask again
   /// (-1 for not before the pointer moves).
   const char* tooltip(std::int64_t now) const;
@@ -84,9 +89,20 @@ class Desk {
   void setNow(std::int64_t now) { now_ = now; }
 
  private:
+  Control& control(int id) { return (*form_)[id]; }
+  const Control& control(int id) const { return (*form_)[id]; }
+  bool isShown(int id) const;
+  int entryOfOpenList(Point screen) const;
+  void pick(int list, int entry);
+  void pressList(int id);
+  void pressTextBox(int id);
+  void dragScrollBar();
+  void insert(std::string_view text);
+
   Font& font_;
   Form* form_ = nullptr;
   FormListener* listener_ = nullptr;
+  int opened_ = 0;
   Point pointer_{600, 300};
   int pressed_ = -1;
   int focus_ = -1;
@@ -94,13 +110,17 @@ class Desk {
   int openList_ = -1;
   int openListRow_ = -1;
   bool boxPressed_ = false;
-  bool scrollDrag_ = false;
+  int scrolled_ = -1;   // file list whose thumb is held, or -1
+  int scrollGrip_ = 0;  // from the top of the thumb to the pixel that is held
   std::array<MessageBox, 4> boxes_{};
   int boxCount_ = 0;
   int hovered_ = -1;
-  std::int64_t hoveredSince_ = 0;
+  std::int64_t restsSince_ = 0;  // -1: no tooltip before the pointer gets to another control
   std::int64_t now_ = 0;
 };
+
+/// Milliseconds the pointer rests over a control before its tooltip shows.
+inline constexpr int kTooltipDelay = 600;
 
 /// Height of one entry of a drop-down or file list, and width of a scroll bar, in pixels.
 inline constexpr int kListRowHeight = 18;

@@ -38,4 +38,11 @@ Rect textBoxInside(const Rect& place);
 /// By how many pixels the text of a text box is pushed to the left so that its caret is in sight.
 int textBoxShift(std::string_view text, std::size_t caret, int width, Font& font, FontSize size);
 
+/// A message box: height of its title bar, margin around its text, width at which the text is
+/// wrapped.
+inline constexpr int kBoxTitleHeight = 26;
+inline constexpr int kBoxMargin = 20;
+inline constexpr int kBoxTextWidth = 400;
+inline constexpr FontSize kBoxFont = FontSize::pt11;
+
 }  // namespace platform

@@ -12,21 +12,34 @@ namespace platform {
 
 class Painter {
  public:
-  explicit Painter(Font& font) : font_(font) {}
+  explicit Painter(Font& font);
+  ~Painter();
 
   /// Brings the framebuffer (800 x 600) up to date with the desk's open screen and whatever floats
   /// above it. Returns the rectangles that changed; none when nothing did.
   const DamageList& paint(Surface& framebuffer, Desk& desk, std::int64_t now);
 
   /// Forgets what has been painted: the next paint is whole.
-  void forget() { form_ = nullptr; }
+  void forget() { opened_ = -1; }
 
  private:
   struct Painted;  // what a control looked like when it was last painted
+  struct Floating {
+    Rect place{};
+    std::uint64_t look = 0;
+  };
+  struct Held;  // what the desk does with the controls at the moment
+
+  void compareChildren(const Form& form, int parent, const Rect& parentPlace, const Rect& clip,
+                       const Held& held);
+  void compare(const Form& form, int id, const Rect& place, const Rect& clip, const Held& held);
+  void forgetShown(const Form& form, int id);
+  void compareFloating(Floating& was, const Floating& now);
 
   Font& font_;
-  const Form* form_ = nullptr;
+  int opened_ = -1;  // which opening of a screen stands on the framebuffer
   std::vector<Painted> painted_;
+  Floating list_, tooltip_, box_;
   DamageList damage_;
 };
 

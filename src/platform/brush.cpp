@@ -1,0 +1,108 @@
+#include "platform/brush.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace platform {
+
+void Brush::fillDown(const Rect& rect, Color top, Color bottom) const {
+  const Rect area = intersection(rect, clip_);
+  for (int y = area.top; y < area.bottom(); ++y) {
+    const int percent = rect.height > 1 ? (y - rect.top) * 100 / (rect.height - 1) : 0;
+    target_.fill({area.left, y, area.width, 1}, mix(top, bottom, percent));
+  }
+}
+
+void Brush::darken(const Rect& rect) const {
+  const Rect area = intersection(rect, clip_);
+  for (int y = area.top; y < area.bottom(); ++y) {
+    std::uint8_t* p = target_.row(y) + static_cast<std::size_t>(area.left) * 3;
+    for (int i = 0; i < area.width * 3; ++i) p[i] = static_cast<std::uint8_t>(p[i] - p[i] / 4);
+  }
+}
+
+void Brush::edges(const Rect& r, Color topLeft, Color bottomRight) const {
+  if (r.empty()) return;
+  fill({r.left, r.top, r.width, 1}, topLeft);
+  fill({r.left, r.top, 1, r.height}, topLeft);
+  fill({r.left, r.bottom() - 1, r.width, 1}, bottomRight);
+  fill({r.right() - 1, r.top, 1, r.height}, bottomRight);
+}
+
+void Brush::raised(const Rect& r, Color back) const {
+  edges(r, mix(back, kWhite, 65), mix(back, kInk, 65));
+  edges({r.left + 1, r.top + 1, r.width - 2, r.height - 2}, mix(back, kWhite, 35),
+        mix(back, kInk, 28));
+}
+
+void Brush::sunken(const Rect& r, Color back) const {
+  edges(r, mix(back, kInk, 45), mix(back, kWhite, 65));
+  edges({r.left + 1, r.top + 1, r.width - 2, r.height - 2}, mix(back, kInk, 22),
+        mix(back, kWhite, 25));
+}
+
+void Brush::line(Point from, Point to, Color color) const {
+  const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
+  if (steep ? from.y > to.y : from.x > to.x) std::swap(from, to);
+  // `along` runs over the longer side, `across` over the shorter, two pixels thick.
+  const int length = steep ? to.y - from.y : to.x - from.x;
+  const int rise = steep ? to.x - from.x : to.y - from.y;
+  for (int along = 0; along <= length; ++along) {
+    int across = 0;
+    if (length > 0) {
+      const int doubled = 2 * along * rise + length;
+      across = doubled / (2 * length) - (doubled % (2 * length) < 0 ? 1 : 0);
+    }
+    const Rect dot = steep ? Rect{from.x + across - 1, from.y + along, 2, 1}
+                           : Rect{from.x + along, from.y + across - 1, 1, 2};
+    fill(dot, color);
+  }
+}
+
+void Brush::arrow(const Rect& rect, bool down, Color color) const {
+  constexpr int kRows = 4;
+  const int middle = rect.left + (rect.width - 1) / 2;
+  const int top = rect.top + (rect.height - kRows) / 2;
+  for (int i = 0; i < kRows; ++i) {
+    const int half = down ? kRows - 1 - i : i;
+    fill({middle - half, top + i, 2 * half + 1, 1}, color);
+  }
+}
+
+void Brush::picture(const Rect& place, const Surface& source) const {
+  if (place.width == source.width() && place.height == source.height()) {
+    BitBlt(target_, clip_.left, clip_.top, clip_.width, clip_.height, source,
+           clip_.left - place.left, clip_.top - place.top, SRCCOPY);
+    return;
+  }
+  const Rect area = intersection(place, clip_);
+  for (int y = area.top; y < area.bottom(); ++y) {
+    const int fromY =
+        static_cast<int>((2LL * (y - place.top) + 1) * source.height() / (2LL * place.height));
+    for (int x = area.left; x < area.right(); ++x) {
+      const int fromX =
+          static_cast<int>((2LL * (x - place.left) + 1) * source.width() / (2LL * place.width));
+      target_.setPixel(x, y, source.pixel(fromX, fromY));
+    }
+  }
+}
+
+void Brush::text(int x, int y, std::string_view text, FontSize size, Color color) const {
+  if (color == kYellow) {
+    constexpr Point kRim[] = {{-1, -1}, {0, -1}, {1, -1}, {-1, 0}, {1, 0}, {-1, 1}, {0, 1}, {1, 1}};
+    for (const Point& p : kRim) font_.draw(target_, clip_, x + p.x, y + p.y, text, size, kInk);
+  }
+  font_.draw(target_, clip_, x, y, text, size, color);
+}
+
+void Brush::line(const Rect& rect, std::string_view caption, FontSize size, Color color,
+                 Align align) const {
+  int x = rect.left;
+  if (align != Align::left) {
+    const int room = rect.width - font_.width(caption, size);
+    x += align == Align::right ? room : room / 2;
+  }
+  text(x, rect.top + (rect.height - lineHeight(size)) / 2, caption, size, color);
+}
+
+}  // namespace platform

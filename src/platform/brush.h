@@ -1,0 +1,60 @@
+// Drawing on the framebuffer inside one rectangle: fills, edges, text, pictures.
+#pragma once
+
+#include <string_view>
+
+#include "platform/control.h"
+
+namespace platform {
+
+/// `percent` of the way from one colour to another.
+constexpr Color mix(Color from, Color to, int percent) {
+  const auto part = [percent](int a, int b) {
+    return static_cast<std::uint8_t>(a + (b - a) * percent / 100);
+  };
+  return {part(from.r, to.r), part(from.g, to.g), part(from.b, to.b)};
+}
+
+inline constexpr Color kInk{36, 48, 104};  // the darkest edges: a deep blue, never black
+
+class Brush {
+ public:
+  /// Nothing outside `clip` is touched.
+  Brush(Surface& target, const Rect& clip, Font& font)
+      : target_(target), clip_(intersection(clip, target.bounds())), font_(font) {}
+
+  const Rect& clip() const { return clip_; }
+  Font& font() const { return font_; }
+  /// The same brush for a part of its rectangle.
+  Brush within(const Rect& part) const { return {target_, intersection(clip_, part), font_}; }
+
+  void fill(const Rect& rect, Color color) const { target_.fill(intersection(rect, clip_), color); }
+  /// Fills with a blend from the top row's colour to the bottom row's.
+  void fillDown(const Rect& rect, Color top, Color bottom) const;
+  /// Takes a quarter of the light away.
+  void darken(const Rect& rect) const;
+  /// A line of one pixel along the inside of the rectangle.
+  void outline(const Rect& rect, Color color) const { edges(rect, color, color); }
+  /// The same with one colour for the top and left, another for the bottom and right.
+  void edges(const Rect& rect, Color topLeft, Color bottomRight) const;
+  /// Edges of two pixels that let a surface of colour `back` stand out, or lie deeper.
+  void raised(const Rect& rect, Color back) const;
+  void sunken(const Rect& rect, Color back) const;
+  /// A line of two pixels; both end points belong to it.
+  void line(Point from, Point to, Color color) const;
+  /// A small triangle in the middle of the rectangle that points down or up.
+  void arrow(const Rect& rect, bool down, Color color) const;
+  /// A picture stretched over `place`.
+  void picture(const Rect& place, const Surface& source) const;
+  /// One line of text; yellow text gets a dark rim so that it reads on light ground.
+  void text(int x, int y, std::string_view text, FontSize size, Color color) const;
+  /// One line of text in the middle of a rectangle's height, placed in its width.
+  void line(const Rect& rect, std::string_view text, FontSize size, Color color, Align align) const;
+
+ private:
+  Surface& target_;
+  Rect clip_;
+  Font& font_;
+};
+
+}  // namespace platform

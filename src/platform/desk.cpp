@@ -1,0 +1,358 @@
+#include "platform/desk.h"
+
+#include <algorithm>
+
+#include "platform/layout.h"
+#include "platform/utf8.h"
+
+namespace platform {
+
+// A handler of the listener may open another screen or hide controls. So a function that tells the
+// listener something does it last, and touches no control of the form afterwards.
+
+void Desk::open(Form* form, FormListener* listener) {
+  form_ = form;
+  listener_ = listener;
+  ++opened_;
+  pressed_ = focus_ = openList_ = openListRow_ = scrolled_ = hovered_ = -1;
+  caret_ = 0;
+}
+
+bool Desk::isShown(int id) const {
+  return form_ != nullptr && id >= 0 && form_->shown(id);
+}
+
+int Desk::topmost(Point screen) const {
+  if (form_ == nullptr || boxCount_ > 0) return -1;
+  if (openListPlace().contains(screen)) return openList_;
+  return form_->topmost(screen);
+}
+
+int Desk::pressed() const {
+  return pressed_ >= 0 && topmost(pointer_) == pressed_ ? pressed_ : -1;
+}
+
+void Desk::pointerMoved(Point screen) {
+  pointer_ = screen;
+  if (scrolled_ >= 0) {
+    dragScrollBar();
+    return;
+  }
+  const int id = topmost(screen);
+  if (id != hovered_) {
+    hovered_ = id;
+    restsSince_ = now_;
+  } else if (restsSince_ >= 0 && now_ - restsSince_ < kTooltipDelay) {
+    restsSince_ = now_;
+  }
+  openListRow_ = entryOfOpenList(screen);
+  if (id < 0 || listener_ == nullptr) return;
+  const Rect place = form_->onScreen(id);
+  listener_->onMouseMove(id, screen.x - place.left, screen.y - place.top);
+}
+
+void Desk::buttonDown() {
+  restsSince_ = -1;
+  pressed_ = -1;
+  if (boxCount_ > 0) {
+    boxPressed_ = boxButton(boxPlace(boxes_[0], font_)).contains(pointer_);
+    return;
+  }
+  if (const int list = openList(); list >= 0) {
+    const int entry = entryOfOpenList(pointer_);
+    openList_ = openListRow_ = -1;
+    if (entry >= 0) pick(list, entry);
+    return;
+  }
+  const int id = topmost(pointer_);
+  if (id < 0) return;
+  pressed_ = id;
+  switch (control(id).design->kind) {
+    case ControlKind::textBox:
+      pressTextBox(id);
+      break;
+    case ControlKind::fileList:
+      focus_ = -1;
+      pressList(id);
+      break;
+    case ControlKind::dropDown:
+      focus_ = -1;
+      if (!control(id).list->items.empty()) openList_ = id;
+      break;
+    case ControlKind::button:
+    case ControlKind::checkBox:
+      focus_ = -1;
+      break;
+    default:
+      break;
+  }
+  if (listener_ == nullptr) return;
+  const Rect place = form_->onScreen(id);
+  listener_->onMouseDown(id, pointer_.x - place.left, pointer_.y - place.top);
+}
+
+void Desk::buttonUp() {
+  scrolled_ = -1;
+  if (boxPressed_) {
+    const bool closes = boxButtonDown();
+    boxPressed_ = false;
+    if (closes) closeBox();
+    return;
+  }
+  const int id = pressed();
+  const int held = pressed_;
+  pressed_ = -1;
+  if (id < 0) return;
+  if (control(held).design->kind == ControlKind::dropDown) {
+    // The button was held from the box down to an entry of the list that it opened.
+    const int entry = entryOfOpenList(pointer_);
+    if (entry >= 0) pick(held, entry);
+    return;
+  }
+  if (control(id).design->kind == ControlKind::checkBox) control(id).checked = !control(id).checked;
+  if (listener_ != nullptr) listener_->onClick(id);
+}
+
+void Desk::wheel(int steps) {
+  const int id = topmost(pointer_);
+  if (id < 0 || control(id).design->kind != ControlKind::fileList) return;
+  ListContent& list = *control(id).list;
+  const ListLayout layout = listLayout(form_->onScreen(id), list);
+  list.top = std::clamp(layout.top - 3 * steps, 0, layout.last);
+}
+
+// Drop-down lists.
+
+int Desk::openList() const {
+  return isShown(openList_) ? openList_ : -1;
+}
+
+Rect Desk::openListPlace() const {
+  if (openList() < 0) return {};
+  const Rect box = form_->onScreen(openList_);
+  const int height = static_cast<int>(control(openList_).list->items.size()) * kListRowHeight + 2;
+  if (box.bottom() + height <= 600) return {box.left, box.bottom(), box.width, height};
+  return {box.left, std::max(0, box.top - height), box.width, height};
+}
+
+int Desk::entryOfOpenList(Point screen) const {
+  const Rect place = openListPlace();
+  if (!place.contains(screen)) return -1;
+  const int entry = std::max(0, screen.y - place.top - 1) / kListRowHeight;
+  return std::min(entry, static_cast<int>(control(openList_).list->items.size()) - 1);
+}
+
+void Desk::pick(int list, int entry) {
+  ListContent& content = *control(list).list;
+  content.selected = entry;
+  control(list).text.assign(content.items[static_cast<std::size_t>(entry)]);
+  openList_ = openListRow_ = -1;
+  if (listener_ != nullptr) listener_->onChoose(list);
+}
+
+bool Desk::choose(int id, std::string_view entry) {
+  if (form_ == nullptr || id < 0 || id >= form_->count() || control(id).list == nullptr)
+    return false;
+  ListContent& list = *control(id).list;
+  const auto at = std::find(list.items.begin(), list.items.end(), entry);
+  if (at == list.items.end()) return false;
+  const int row = static_cast<int>(at - list.items.begin());
+  if (control(id).design->kind == ControlKind::dropDown) {
+    pick(id, row);
+    return true;
+  }
+  list.selected = row;
+  const ListLayout layout = listLayout(form_->onScreen(id), list);
+  list.top = std::clamp(layout.top, std::max(0, row - layout.fitting + 1), row);
+  if (listener_ != nullptr) listener_->onClick(id);
+  return true;
+}
+
+// File lists.
+
+void Desk::pressList(int id) {
+  ListContent& list = *control(id).list;
+  const ListLayout layout = listLayout(form_->onScreen(id), list);
+  int top = layout.top;
+  if (layout.up.contains(pointer_)) {
+    --top;
+  } else if (layout.down.contains(pointer_)) {
+    ++top;
+  } else if (layout.thumb.contains(pointer_)) {
+    scrolled_ = id;
+    scrollGrip_ = pointer_.y - layout.thumb.top;
+  } else if (layout.track.contains(pointer_)) {
+    top += pointer_.y < layout.thumb.top ? -layout.fitting : layout.fitting;
+  } else if (const int entry = listEntryAt(layout, list, pointer_); entry >= 0) {
+    list.selected = entry;
+  }
+  list.top = std::clamp(top, 0, layout.last);
+}
+
+void Desk::dragScrollBar() {
+  if (!isShown(scrolled_)) return;
+  ListContent& list = *control(scrolled_).list;
+  const ListLayout layout = listLayout(form_->onScreen(scrolled_), list);
+  const int room = layout.track.height - layout.thumb.height;
+  if (room <= 0) return;
+  const int offset = std::clamp(pointer_.y - scrollGrip_ - layout.track.top, 0, room);
+  list.top = (offset * layout.last + room / 2) / room;
+}
+
+// Text boxes.
+
+int Desk::focus() const {
+  return isShown(focus_) ? focus_ : -1;
+}
+
+std::size_t Desk::caret() const {
+  if (focus() < 0) return 0;
+  // The screen may have written another text into the box meanwhile.
+  const std::string_view text = control(focus_).text.view();
+  std::size_t at = std::min(caret_, text.size());
+  while (at > 0 && at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80) --at;
+  return at;
+}
+
+void Desk::pressTextBox(int id) {
+  const std::size_t before = focus_ == id ? caret() : 0;
+  const Control& box = control(id);
+  const FontSize size = box.design->font;
+  const std::string_view text = box.text.view();
+  const Rect inside = textBoxInside(form_->onScreen(id));
+  int x = inside.left - textBoxShift(text, before, inside.width, font_, size);
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const std::size_t next = nextCharacter(text, at);
+    const int width = font_.width(text.substr(at, next - at), size);
+    if (pointer_.x < x + (width + 1) / 2) break;
+    x += width;
+    at = next;
+  }
+  focus_ = id;
+  caret_ = at;
+}
+
+void Desk::insert(std::string_view added) {
+  Text& text = control(focus_).text;
+  const std::size_t at = caret();
+  Text result(text.view().substr(0, at));
+  std::size_t room = Text::kCapacity - text.view().size();
+  while (!added.empty()) {
+    const std::string_view before = added;
+    const char32_t code = takeCharacter(added);
+    const std::string_view character = before.substr(0, before.size() - added.size());
+    const bool damaged = code == kReplacement && character.size() == 1;
+    if (code < 0x20 || code == 0x7F || damaged) continue;
+    if (character.size() > room) break;
+    room -= character.size();
+    result.append(character);
+  }
+  caret_ = result.view().size();
+  result.append(text.view().substr(at));
+  text = result;
+}
+
+void Desk::type(std::string_view text) {
+  if (boxCount_ == 0 && focus() >= 0) insert(text);
+}
+
+void Desk::key(Key key) {
+  if (boxCount_ > 0) {
+    if (key == Key::enter || key == Key::escape) closeBox();
+    return;
+  }
+  if (const int list = openList(); list >= 0) {
+    const int entry = openListRow_;
+    if (key != Key::enter && key != Key::escape) return;
+    openList_ = openListRow_ = -1;
+    if (key == Key::enter && entry >= 0) pick(list, entry);
+    return;
+  }
+  if (focus() < 0) return;
+  Text& text = control(focus_).text;
+  const auto removeBetween = [&text](std::size_t from, std::size_t to) {
+    Text result(text.view().substr(0, from));
+    result.append(text.view().substr(to));
+    text = result;
+  };
+  const std::size_t at = caret();
+  caret_ = at;
+  switch (key) {
+    case Key::left:
+      caret_ = previousCharacter(text, at);
+      break;
+    case Key::right:
+      caret_ = nextCharacter(text, at);
+      break;
+    case Key::home:
+      caret_ = 0;
+      break;
+    case Key::end:
+      caret_ = text.view().size();
+      break;
+    case Key::backspace:
+      caret_ = previousCharacter(text, at);
+      removeBetween(caret_, at);
+      break;
+    case Key::deleteForward:
+      removeBetween(at, nextCharacter(text, at));
+      break;
+    case Key::enter:
+    case Key::escape:
+      break;
+  }
+}
+
+// Message boxes.
+
+Rect Desk::boxPlace(const MessageBox& box, Font& font) {
+  const Size text = measureLines(box.text, kBoxTextWidth, font, kBoxFont);
+  const int title = font.width(box.title, kBoxFont);
+  const int width = std::clamp(std::max(text.width, title), 160, 740) + 2 * kBoxMargin;
+  const int lines = std::max(1, text.height) * lineHeight(kBoxFont);
+  const int height = std::min(580, kBoxTitleHeight + lines + 3 * kBoxMargin - 8 + 27);
+  return {(800 - width) / 2, (600 - height) / 2, width, height};
+}
+
+Rect Desk::boxButton(const Rect& place) {
+  return {place.left + (place.width - 82) / 2, place.bottom() - kBoxMargin + 4 - 27, 82, 27};
+}
+
+void Desk::showBox(std::string_view title, std::string_view text) {
+  // When too many wait already the last of them gives way: the newest tells most.
+  if (boxCount_ == static_cast<int>(boxes_.size())) --boxCount_;
+  MessageBox& box = boxes_[static_cast<std::size_t>(boxCount_++)];
+  box.title.assign(title);
+  box.text.assign(text);
+  pressed_ = openList_ = openListRow_ = scrolled_ = hovered_ = -1;
+}
+
+void Desk::closeBox() {
+  if (boxCount_ == 0) return;
+  std::move(boxes_.begin() + 1, boxes_.begin() + boxCount_, boxes_.begin());
+  --boxCount_;
+  boxPressed_ = false;
+}
+
+bool Desk::boxButtonDown() const {
+  return boxPressed_ && boxCount_ > 0 && boxButton(boxPlace(boxes_[0], font_)).contains(pointer_);
+}
+
+// Tooltips.
+
+const char* Desk::tooltip(std::int64_t now) const {
+  if (!isShown(hovered_) || restsSince_ < 0 || now - restsSince_ < kTooltipDelay) return nullptr;
+  const char* text = control(hovered_).design->tooltip;
+  if (text == nullptr || openList() >= 0 || topmost(pointer_) != hovered_) return nullptr;
+  return text;
+}
+
+std::int64_t Desk::tooltipDue() const {
+  if (!isShown(hovered_) || restsSince_ < 0 || control(hovered_).design->tooltip == nullptr)
+    return -1;
+  const std::int64_t due = restsSince_ + kTooltipDelay;
+  return due > now_ ? due : -1;
+}
+
+}  // namespace platform

@@ -1,0 +1,254 @@
+#include "platform/painter.h"
+
+#include "platform/layout.h"
+#include "platform/paint.h"
+
+namespace platform {
+
+namespace {
+
+constexpr Rect kScreen{0, 0, 800, 600};
+
+/// A number that tells one look of a floating thing or a list from another.
+class Look {
+ public:
+  Look& with(std::string_view text) {
+    for (const char c : text) step(static_cast<unsigned char>(c));
+    return with(static_cast<int>(text.size()));
+  }
+  Look& with(int value) {
+    for (int i = 0; i < 4; ++i) step(static_cast<unsigned>(value) >> (8 * i) & 0xFF);
+    return *this;
+  }
+  std::uint64_t value() const { return value_; }
+
+ private:
+  void step(std::uint64_t byte) { value_ = (value_ ^ byte) * 0x100000001B3u; }
+  std::uint64_t value_ = 0xCBF29CE484222325u;
+};
+
+/// The look of what a list shows within its own box.
+std::uint64_t lookOf(const Control& control, const Rect& place) {
+  const ListContent& list = *control.list;
+  const int count = static_cast<int>(list.items.size());
+  Look look;
+  look.with(list.selected).with(count);
+  if (control.design->kind == ControlKind::dropDown) {
+    if (list.selected >= 0 && list.selected < count) {
+      look.with(list.items[static_cast<std::size_t>(list.selected)]);
+    }
+    return look.value();
+  }
+  const ListLayout layout = listLayout(place, list);
+  look.with(layout.top);
+  for (int i = layout.top; i < count && i <= layout.top + layout.fitting; ++i) {
+    look.with(list.items[static_cast<std::size_t>(i)]);
+  }
+  return look.value();
+}
+
+std::uint64_t lookOfOpenList(const ListContent& list, int row) {
+  Look look;
+  look.with(row).with(list.selected);
+  for (const std::string& item : list.items) look.with(item);
+  return look.value();
+}
+
+/// Where a control lies on the screen, given the one that holds it.
+Rect placeIn(const Control& control, const Rect& parent) {
+  if (control.design->kind == ControlKind::line) return parent;
+  return moved(control.place, parent.left, parent.top);
+}
+
+}  // namespace
+
+struct Painter::Painted {
+  bool shown = false;
+  bool border = false;
+  bool checked = false;
+  ControlState state;
+  Color fore{};
+  Color back{};
+  int rank = 0;
+  Rect place{};
+  Rect clip{};
+  Point from{};
+  Point to{};
+  const Surface* image = nullptr;
+  const Canvas* canvas = nullptr;
+  std::uint64_t list = 0;
+  Text text;
+};
+
+struct Painter::Held {
+  int pressed = -1;
+  int open = -1;
+  int focus = -1;
+  std::size_t caret = 0;
+
+  explicit Held(const Desk& desk)
+      : pressed(desk.pressed()), open(desk.openList()), focus(desk.focus()), caret(desk.caret()) {}
+  ControlState of(int id) const {
+    return {id == pressed, id == open, id == focus, id == focus ? caret : 0};
+  }
+};
+
+Painter::Painter(Font& font) : font_(font) {}
+Painter::~Painter() = default;
+
+// Finding what changed.
+
+void Painter::compareChildren(const Form& form, int parent, const Rect& parentPlace,
+                              const Rect& clip, const Held& held) {
+  for (const int id : form.children(parent)) {
+    const Control& control = form[id];
+    const Rect place = placeIn(control, parentPlace);
+    const bool line = control.design->kind == ControlKind::line;
+    const Rect seen = intersection(line ? form.onScreen(id) : place, clip);
+    if (!control.visible || seen.empty()) {
+      forgetShown(form, id);
+      continue;
+    }
+    compare(form, id, place, seen, held);
+    compareChildren(form, id, place, seen, held);
+  }
+}
+
+void Painter::compare(const Form& form, int id, const Rect& place, const Rect& clip,
+                      const Held& held) {
+  const Control& control = form[id];
+  Painted& was = painted_[static_cast<std::size_t>(id)];
+  const ControlState state = held.of(id);
+  const std::uint64_t list = control.list == nullptr ? 0 : lookOf(control, place);
+  if (control.canvas != nullptr) {
+    for (const Rect& rect : control.canvas->shown().rects()) {
+      damage_.add(intersection(moved(rect, place.left, place.top), clip));
+    }
+    control.canvas->shown().clear();
+  }
+  const bool same = was.shown && was.clip == clip && was.place == place &&
+                    was.fore == control.fore && was.back == control.back &&
+                    was.border == control.border && was.checked == control.checked &&
+                    was.state == state && was.rank == control.rank && was.from == control.from &&
+                    was.to == control.to && was.image == control.image &&
+                    was.canvas == control.canvas && was.list == list && was.text == control.text;
+  if (same) return;
+  if (was.shown) damage_.add(was.clip);
+  damage_.add(clip);
+  was.shown = true;
+  was.border = control.border;
+  was.checked = control.checked;
+  was.state = state;
+  was.fore = control.fore;
+  was.back = control.back;
+  was.rank = control.rank;
+  was.place = place;
+  was.clip = clip;
+  was.from = control.from;
+  was.to = control.to;
+  was.image = control.image;
+  was.canvas = control.canvas;
+  was.list = list;
+  was.text.assign(control.text);
+}
+
+void Painter::forgetShown(const Form& form, int id) {
+  Painted& was = painted_[static_cast<std::size_t>(id)];
+  if (!was.shown) return;  // then nothing that it holds was shown either
+  was.shown = false;
+  damage_.add(was.clip);
+  for (const int child : form.children(id)) forgetShown(form, child);
+}
+
+void Painter::compareFloating(Floating& was, const Floating& now) {
+  if (was.place == now.place && was.look == now.look) return;
+  damage_.add(intersection(was.place, kScreen));
+  damage_.add(intersection(now.place, kScreen));
+  was = now;
+}
+
+// Painting.
+
+namespace {
+
+void paintChildren(const Brush& brush, const Form& form, int parent, const Rect& parentPlace,
+                   const auto& stateOf) {
+  const std::span<const int> children = form.children(parent);
+  std::size_t first = 0;
+  // What lies wholly behind a control that covers the brush's rectangle need not be painted.
+  for (std::size_t i = children.size(); i-- > 0 && first == 0;) {
+    const Control& control = form[children[i]];
+    const Rect place = placeIn(control, parentPlace);
+    const bool covers = control.visible && coversItsBox(control) &&
+                        intersection(place, brush.clip()) == brush.clip();
+    if (covers) first = i;
+  }
+  for (const int id : children.subspan(first)) {
+    const Control& control = form[id];
+    if (!control.visible) continue;
+    const Rect place = placeIn(control, parentPlace);
+    const Brush within = brush.within(place);
+    if (within.clip().empty()) continue;
+    paintControl(within, control, place, stateOf(id));
+    paintChildren(within, form, id, place, stateOf);
+  }
+}
+
+}  // namespace
+
+const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t now) {
+  damage_.clear();
+  const Form* form = desk.form();
+  if (opened_ != desk.opened()) {
+    opened_ = desk.opened();
+    painted_.assign(form == nullptr ? 0 : static_cast<std::size_t>(form->count()), Painted{});
+    damage_.add(kScreen);
+  }
+  const Held held(desk);
+  if (form != nullptr) compareChildren(*form, kNoParent, kScreen, kScreen, held);
+
+  Floating list;
+  if (held.open >= 0) {
+    const ListContent& content = *(*form)[held.open].list;
+    list = {withShadow(desk.openListPlace()), lookOfOpenList(content, desk.openListRow())};
+  }
+  Floating tooltip;
+  const char* tip = desk.tooltip(now);
+  Rect tipPlace;
+  if (tip != nullptr) {
+    tipPlace = tooltipPlace(form->onScreen(desk.hovered()), tip, font_);
+    tooltip = {withShadow(tipPlace), Look().with(tip).value()};
+  }
+  Floating box;
+  Rect boxPlace;
+  if (const MessageBox* shown = desk.box()) {
+    boxPlace = Desk::boxPlace(*shown, font_);
+    box = {withShadow(boxPlace),
+           Look().with(shown->title).with(shown->text).with(desk.boxButtonDown()).value()};
+  }
+  compareFloating(list_, list);
+  compareFloating(tooltip_, tooltip);
+  compareFloating(box_, box);
+
+  for (const Rect& rect : damage_.rects()) {
+    const Brush brush(framebuffer, rect, font_);
+    brush.fill(rect, kBlack);
+    if (form != nullptr) {
+      if (form->background() != nullptr) {
+        const Surface& picture = *form->background();
+        brush.picture(picture.bounds(), picture);
+      }
+      paintChildren(brush, *form, kNoParent, kScreen, [&held](int id) { return held.of(id); });
+      if (held.open >= 0) {
+        paintOpenList(brush, desk.openListPlace(), (*form)[held.open], desk.openListRow());
+      }
+      if (tip != nullptr) paintTooltip(brush, tipPlace, tip);
+    }
+    if (const MessageBox* shown = desk.box()) {
+      paintBox(brush, boxPlace, *shown, desk.boxButtonDown());
+    }
+  }
+  return damage_;
+}
+
+}  // namespace platform
