@@ -28,23 +28,44 @@ constexpr int kParked = 1000;
 
 constexpr ControlDesign frame(const char* name, int parent, Rect place, Color back,
                               bool visible = true) {
-  return {.name = name, .kind = ControlKind::frame, .parent = parent, .place = place, .back = back,
-          .opaque = true, .visible = visible};
+  return {.name = name,
+          .kind = ControlKind::frame,
+          .parent = parent,
+          .place = place,
+          .back = back,
+          .opaque = true,
+          .visible = visible};
 }
 constexpr ControlDesign panel(const char* name, Rect place, const char* caption) {
-  return {.name = name, .kind = ControlKind::frame, .place = place, .text = caption,
-          .font = FontSize::pt14, .back = kFloating, .opaque = true, .border = true,
-          .visible = false, .heading = Heading::title};
+  return {.name = name,
+          .kind = ControlKind::frame,
+          .place = place,
+          .text = caption,
+          .font = FontSize::pt14,
+          .back = kFloating,
+          .opaque = true,
+          .border = true,
+          .visible = false,
+          .heading = Heading::title};
 }
 constexpr ControlDesign image(const char* name, int parent, int width, int height) {
-  return {.name = name, .kind = ControlKind::image, .parent = parent,
-          .place = {0, 0, width, height}, .image = name};
+  return {.name = name,
+          .kind = ControlKind::image,
+          .parent = parent,
+          .place = {0, 0, width, height},
+          .image = name};
 }
 constexpr ControlDesign label(const char* name, int parent, Rect place, const char* text,
                               FontSize font = FontSize::pt11, Align align = Align::left,
                               int index = kSingle) {
-  return {.name = name, .index = index, .kind = ControlKind::label, .parent = parent,
-          .place = place, .text = text, .font = font, .align = align};
+  return {.name = name,
+          .index = index,
+          .kind = ControlKind::label,
+          .parent = parent,
+          .place = place,
+          .text = text,
+          .font = font,
+          .align = align};
 }
 // A label that acts as a button of the right-hand panel.
 constexpr ControlDesign knob(const char* name, int parent, Rect place, const char* text,
@@ -61,16 +82,32 @@ constexpr ControlDesign cell(const char* name, int parent, Rect place, const cha
 }
 constexpr ControlDesign button(const char* name, int parent, Rect place, const char* text,
                                FontSize font = FontSize::pt11) {
-  return {.name = name, .kind = ControlKind::button, .parent = parent, .place = place,
-          .text = text, .font = font, .align = Align::centre, .back = kPlate, .opaque = true};
+  return {.name = name,
+          .kind = ControlKind::button,
+          .parent = parent,
+          .place = place,
+          .text = text,
+          .font = font,
+          .align = Align::centre,
+          .back = kPlate,
+          .opaque = true};
 }
 constexpr ControlDesign box(const char* name, int parent, Rect place, Color back) {
-  return {.name = name, .kind = ControlKind::box, .parent = parent, .place = place, .back = back,
-          .opaque = true, .border = true};
+  return {.name = name,
+          .kind = ControlKind::box,
+          .parent = parent,
+          .place = place,
+          .back = back,
+          .opaque = true,
+          .border = true};
 }
 constexpr ControlDesign line(int index) {
-  return {.name = "Line1", .index = index, .kind = ControlKind::line, .parent = picScroll,
-          .fore = platform::kGreen, .visible = false};
+  return {.name = "Line1",
+          .index = index,
+          .kind = ControlKind::line,
+          .parent = picScroll,
+          .fore = platform::kGreen,
+          .visible = false};
 }
 constexpr ControlDesign tooltip(ControlDesign d, const char* text) {
   d.tooltip = text;
@@ -103,7 +140,8 @@ constexpr ControlDesign preference(const char* name, Rect place, const char* tex
 
 constexpr std::array<ControlDesign, kCount> makeTable() {
   std::array<ControlDesign, kCount> t{};
-  t[picScroll] = {.name = "picScroll", .kind = ControlKind::picture, .place = {-592, -228, 1984, 1056}};
+  t[picScroll] = {
+      .name = "picScroll", .kind = ControlKind::picture, .place = {-592, -228, 1984, 1056}};
   for (int n = 0; n < 8; ++n) t[Line1 + n] = line(n);
 
   t[Frame14] = frame("Frame14", kNoParent, {0, 0, 623, 37}, kPanel);
@@ -112,8 +150,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                     "The population of your settlement");
   t[para1] = tooltip(label("para1", Frame14, {176, 8, 140, 20}, "Gold:"),
                      "The amount of gold in the treasury");
-  t[FoodS] = tooltip(label("FoodS", Frame14, {328, 8, 130, 20}, "Food:0"),
-                     "The amount of food stored");
+  t[FoodS] =
+      tooltip(label("FoodS", Frame14, {328, 8, 130, 20}, "Food:0"), "The amount of food stored");
   t[tarih] = label("tarih", Frame14, {472, 8, 140, 20}, "Date: ");
 
   t[Frame6] = frame("Frame6", kNoParent, {624, -16, 177, 618}, kPanel);
@@ -133,11 +171,12 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Command5] = knob("Command5", Frame2, {8, 6, 129, 22}, "PREFERENCES");
   t[Frame1] = frame("Frame1", Frame6, {16, 264, 145, 258}, kPanel);
   t[Image6] = image("Image6", Frame1, 145, 258);
-  t[Label4] = label("Label4", Frame1, {8, 32, 129, 25}, "BUILD MODE", FontSize::pt12, Align::centre);
+  t[Label4] =
+      label("Label4", Frame1, {8, 32, 129, 25}, "BUILD MODE", FontSize::pt12, Align::centre);
   t[buildcurrent] = label("buildcurrent", Frame1, {16, 56, 113, 17}, "Current:Road    ",
                           FontSize::pt9, Align::centre);
-  t[buildprice] = label("buildprice", Frame1, {16, 72, 113, 17}, "Price:5", FontSize::pt9,
-                        Align::centre);
+  t[buildprice] =
+      label("buildprice", Frame1, {16, 72, 113, 17}, "Price:5", FontSize::pt9, Align::centre);
   t[namlbl] = knob("namlbl", Frame1, {8, 64, 129, 25}, "");
   t[inform] = knob("inform", Frame1, {8, 4, 57, 19}, "INFO");
   t[building] = knob("building", Frame1, {80, 4, 57, 19}, "BUILD");
@@ -173,12 +212,12 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Frame13] = frame("Frame13", kNoParent, {kParked, 520, 441, 76}, kFloating, false);
   t[Frame13].border = true;
   t[legendtitle] = label("legendtitle", Frame13, {8, 4, 425, 16}, "LEGEND:", FontSize::pt9);
-  t[legendblue] = label("legendblue", Frame13, {8, 21, 425, 16},
-                        "Blue:Residences which have access to the selected building   ",
-                        FontSize::pt9);
-  t[legendred] = label("legendred", Frame13, {8, 38, 425, 16},
-                       "Red:Residences which do not have access to the selected building   ",
-                       FontSize::pt9);
+  t[legendblue] =
+      label("legendblue", Frame13, {8, 21, 425, 16},
+            "Blue:Residences which have access to the selected building   ", FontSize::pt9);
+  t[legendred] =
+      label("legendred", Frame13, {8, 38, 425, 16},
+            "Red:Residences which do not have access to the selected building   ", FontSize::pt9);
   t[legendgrey] = label("legendgrey", Frame13, {8, 55, 425, 16}, "Grey:Non residential buildings",
                         FontSize::pt9);
 
@@ -188,8 +227,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
   t[Frame20] = frame("Frame20", kNoParent, {kParked, 0, 178, 37}, kPanel);
   t[Image8] = image("Image8", Frame20, 178, 37);
-  t[Label16] = label("Label16", Frame20, {8, 4, 161, 17}, "CLICK HERE TO END", FontSize::pt9,
-                     Align::centre);
+  t[Label16] =
+      label("Label16", Frame20, {8, 4, 161, 17}, "CLICK HERE TO END", FontSize::pt9, Align::centre);
   t[Label17] = label("Label17", Frame20, {8, 16, 161, 17}, "THE DEMONSTRATION", FontSize::pt9,
                      Align::centre);
 
@@ -221,11 +260,11 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[churat] = caption("churat", 11, " Religion rating:");
   t[docrat] = caption("docrat", 12, " Health rating:");
   t[tavrat] = caption("tavrat", 13, " Recreation rating:");
-  t[taxLabel] = cell("taxLabel", Frame4, {128, 376, 105, 20}, " Tax rate (%)", FontSize::pt9,
-                     Align::left);
+  t[taxLabel] =
+      cell("taxLabel", Frame4, {128, 376, 105, 20}, " Tax rate (%)", FontSize::pt9, Align::left);
   t[taxrateminus] = button("taxrateminus", Frame4, {232, 376, 20, 20}, "<", FontSize::pt9);
-  t[showtaxrate] = cell("showtaxrate", Frame4, {252, 376, 21, 20}, "15", FontSize::pt9,
-                        Align::centre);
+  t[showtaxrate] =
+      cell("showtaxrate", Frame4, {252, 376, 21, 20}, "15", FontSize::pt9, Align::centre);
   t[taxrateplus] = button("taxrateplus", Frame4, {272, 376, 20, 20}, ">", FontSize::pt9);
   t[statusclose] = button("statusclose", statusframe, {464, 0, 25, 27}, "X");
 
@@ -234,15 +273,20 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[prefplate2] = box("prefplate2", showpref, {16, 40, 233, 185}, kFloating);
   t[Frame5] = frame("Frame5", showpref, {24, 48, 217, 169}, kRow);
   t[Label19] = preference("Label19", {0, 8, 113, 25}, " Music");
-  t[Combo1] = {.name = "Combo1", .kind = ControlKind::dropDown, .parent = Frame5,
-               .place = {112, 8, 97, 27}, .font = FontSize::pt9, .back = platform::kWhite,
-               .opaque = true, .border = true};
+  t[Combo1] = {.name = "Combo1",
+               .kind = ControlKind::dropDown,
+               .parent = Frame5,
+               .place = {112, 8, 97, 27},
+               .font = FontSize::pt9,
+               .back = platform::kWhite,
+               .opaque = true,
+               .border = true};
   t[scrollspeed] = preference("scrollspeed", {0, 40, 137, 25}, " Sound effects");
   t[scrollspeedminus] = button("scrollspeedminus", Frame5, {136, 40, 48, 24}, "On");
   t[Label7] = preference("Label7", {0, 72, 105, 25}, " Game speed");
   t[gamespeedminus] = button("gamespeedminus", Frame5, {104, 72, 24, 24}, "<");
-  t[gamespeed] = cell("gamespeed", Frame5, {128, 72, 65, 25}, "Normal", FontSize::pt11,
-                      Align::centre);
+  t[gamespeed] =
+      cell("gamespeed", Frame5, {128, 72, 65, 25}, "Normal", FontSize::pt11, Align::centre);
   t[gamespeedplus] = button("gamespeedplus", Frame5, {192, 72, 24, 24}, ">");
   t[Label13] = preference("Label13", {0, 104, 137, 25}, " Farm animation");
   t[zoomminus] = button("zoomminus", Frame5, {136, 104, 48, 24}, "On");
@@ -261,13 +305,23 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[framesave] = panel("framesave", {kParked, 165, 241, 369}, "SAVE GAME");
   t[saveplate] = box("saveplate", framesave, {16, 40, 209, 313}, kPlate);
   t[savehint1] = label("savehint1", framesave, {32, 48, 185, 20}, "Enter a new game name:");
-  t[txtsavename] = {.name = "txtsavename", .kind = ControlKind::textBox, .parent = framesave,
-                    .place = {32, 72, 137, 27}, .font = FontSize::pt11, .back = platform::kWhite,
-                    .opaque = true, .border = true};
+  t[txtsavename] = {.name = "txtsavename",
+                    .kind = ControlKind::textBox,
+                    .parent = framesave,
+                    .place = {32, 72, 137, 27},
+                    .font = FontSize::pt11,
+                    .back = platform::kWhite,
+                    .opaque = true,
+                    .border = true};
   t[savehint2] = label("savehint2", framesave, {32, 104, 185, 20}, "Or select an old one:");
-  t[File2] = {.name = "File2", .kind = ControlKind::fileList, .parent = framesave,
-              .place = {32, 128, 177, 158}, .font = FontSize::pt9, .back = platform::kWhite,
-              .opaque = true, .border = true};
+  t[File2] = {.name = "File2",
+              .kind = ControlKind::fileList,
+              .parent = framesave,
+              .place = {32, 128, 177, 158},
+              .font = FontSize::pt9,
+              .back = platform::kWhite,
+              .opaque = true,
+              .border = true};
   t[cmdsave] = button("cmdsave", framesave, {32, 304, 81, 33}, "Save");
   t[Cancelsave] = button("Cancelsave", framesave, {128, 304, 81, 33}, "Cancel");
 
@@ -276,9 +330,14 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[loadhintplate] = box("loadhintplate", frameload, {22, 46, 197, 24}, kFloating);
   t[loadhint] = label("loadhint", frameload, {24, 48, 193, 20}, "Select a game from the list",
                       FontSize::pt11, Align::centre);
-  t[File1] = {.name = "File1", .kind = ControlKind::fileList, .parent = frameload,
-              .place = {32, 88, 177, 177}, .font = FontSize::pt9, .back = platform::kWhite,
-              .opaque = true, .border = true};
+  t[File1] = {.name = "File1",
+              .kind = ControlKind::fileList,
+              .parent = frameload,
+              .place = {32, 88, 177, 177},
+              .font = FontSize::pt9,
+              .back = platform::kWhite,
+              .opaque = true,
+              .border = true};
   t[cmdload] = button("cmdload", frameload, {32, 280, 81, 33}, " Load ");
   t[cmdcancel] = button("cmdcancel", frameload, {128, 280, 81, 33}, "Cancel");
 
@@ -294,7 +353,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[mscompfrm] = frame("mscompfrm", kNoParent, {kParked, 200, 257, 121}, kFloating, false);
   t[Command4] = button("Command4", mscompfrm, {0, 0, 257, 121}, "", FontSize::pt14);
 
-  t[haber] = hidden(label("haber", kNoParent, {168, 48, 329, 33}, "", FontSize::pt11, Align::centre));
+  t[haber] =
+      hidden(label("haber", kNoParent, {168, 48, 329, 33}, "", FontSize::pt11, Align::centre));
   t[haber].back = kBanner;
   t[haber].opaque = true;
   t[haber].border = true;
@@ -313,6 +373,8 @@ static_assert(everyRowFilled());
 
 }  // namespace
 
-std::span<const ControlDesign> gameControls() { return kTable; }
+std::span<const ControlDesign> gameControls() {
+  return kTable;
+}
 
 }  // namespace core

@@ -85,7 +85,7 @@ enum Id : int {
   mon2lbl,
   mon3lbl,
   mon4lbl,
-  stlbl1,  // [14]
+  stlbl1,                // [14]
   stlbl2 = stlbl1 + 14,  // [14]
   stlbl3 = stlbl2 + 14,  // [14]
   stlbl4 = stlbl3 + 14,  // [14]

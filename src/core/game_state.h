@@ -1,8 +1,8 @@
 // The game: everything that describes one city, and the few values that outlive it.
 //
 // State is plain data. Cells are addressed (x, y); x runs right and down on the screen, y left and
-// down. Numbers that a saved game holds are `Number`, `Code` or `Flag`; what lives only while a game
-// is open is plain. A fresh object holds unset numbers and unset grids: a new game resets them
+// down. Numbers that a saved game holds are `Number`, `Code` or `Flag`; what lives only while a
+// game is open is plain. A fresh object holds unset numbers and unset grids: a new game resets them
 // (core/new_game.h), a saved game or a city handed over replaces them.
 #pragma once
 
@@ -23,7 +23,8 @@ enum Service { kMarket = 1, kSchool = 2, kTavern = 3, kChurch = 4, kDoctor = 5 }
 
 /// What the menu owns: values that outlive a game and speak between the two screens.
 struct ProgramValues {
-  Number gMission;    // 1..10 campaign, 11 for one moment, 15 open play, 16 demonstration, 20..29 puzzles
+  Number gMission;    // 1..10 campaign, 11 for one moment, 15 open play, 16 demonstration, 20..29
+                      // puzzles
   Number gYear;       // calendar year, from 1715
   Number gMapSize;    // side S of the play square, even, 4..28
   Number gFertility;  // food factor of farms: 1.2, 1 or 0.8
@@ -52,23 +53,23 @@ struct ProgramValues {
 
 struct GameState {
   // Grids. A saved game holds all of them but tileImage.
-  CellGrid<Code> tileCode;                       // what stands on a cell (core/vocabulary.h)
-  Table<std::int16_t, 0, 35, 0, 35> tileImage;   // number of the picture drawn for a cell
-  CellGrid<Number> buildingId;                   // the same for all cells of one building
-  CellGrid<Number> cellCapacity;                 // people that one residence cell holds
+  CellGrid<Code> tileCode;                      // what stands on a cell (core/vocabulary.h)
+  Table<std::int16_t, 0, 35, 0, 35> tileImage;  // number of the picture drawn for a cell
+  CellGrid<Number> buildingId;                  // the same for all cells of one building
+  CellGrid<Number> cellCapacity;                // people that one residence cell holds
   CellGrid<Flag> marketCover, schoolCover, tavernCover, churchCover, doctorCover;
-  CellGrid<Flag> cellServices;                   // services that reach the cell, 0..5
-  LayerGrids<Flag> roadService;                  // [k]: road cell carries service k
-  LayerGrids<Flag> cellService;                  // [k]: residence cell has service k by road
-  CellGrid<Flag> cellTall;                       // drawn in the tall layer
-  CellGrid<Flag> cellDirty;                      // to be repainted by the next redraw
+  CellGrid<Flag> cellServices;   // services that reach the cell, 0..5
+  LayerGrids<Flag> roadService;  // [k]: road cell carries service k
+  LayerGrids<Flag> cellService;  // [k]: residence cell has service k by road
+  CellGrid<Flag> cellTall;       // drawn in the tall layer
+  CellGrid<Flag> cellDirty;      // to be repainted by the next redraw
 
-  Table<Number, -14, 100, -4, 28> history;       // (column, row): rows 1..14, a column a month
-  Row<Number, 1, 10> toolUnlocked;               // 1 church, 2 school, 3 doctor, 4 tavern
+  Table<Number, -14, 100, -4, 28> history;  // (column, row): rows 1..14, a column a month
+  Row<Number, 1, 10> toolUnlocked;          // 1 church, 2 school, 3 doctor, 4 tavern
 
   // Walkers, slots 1..10; kept only while a game is open.
-  Row<int, 1, kWalkers> walkerX, walkerY, walkerDir, walkerFrame, walkerPxX, walkerPxY, walkerCellDX,
-      walkerCellDY, walkerActive, walkerDone;
+  Row<int, 1, kWalkers> walkerX, walkerY, walkerDir, walkerFrame, walkerPxX, walkerPxY,
+      walkerCellDX, walkerCellDY, walkerActive, walkerDone;
 
   // Money, food, people.
   Number gold, food, population, housingCapacity, farmCount, taxRate;
@@ -81,8 +82,10 @@ struct GameState {
   Number month, tickOfMonth, monthLength, ticksPerMonth, historyIndex;
 
   // Hand and view.
-  Number nextBuildingId, currentTool, cellX, cellY, buildingHousing, roadNeighbourCount, overlayView;
-  Number walkersOn, farmAnimationOn, newsTicks, hoverLabel, freeWalkerSlot, cellOriginX, cellOriginY;
+  Number nextBuildingId, currentTool, cellX, cellY, buildingHousing, roadNeighbourCount,
+      overlayView;
+  Number walkersOn, farmAnimationOn, newsTicks, hoverLabel, freeWalkerSlot, cellOriginX,
+      cellOriginY;
   Number churchUnlocked, schoolUnlocked, doctorUnlocked, tavernUnlocked;
   int demolishFlag = 0;
   int cursorFootprint = 0;
@@ -112,16 +115,23 @@ struct GameState {
 };
 
 /// First cell of the play square; its last is mapMargin + gMapSize.
-inline double mapMargin(const ProgramValues& values) { return (30 - values.gMapSize) / 2; }
+inline double mapMargin(const ProgramValues& values) {
+  return (30 - values.gMapSize) / 2;
+}
 
 /// Cover grid of service k, 1..5.
 inline CellGrid<Flag>& coverGrid(GameState& game, int k) {
   switch (k) {
-    case kMarket: return game.marketCover;
-    case kSchool: return game.schoolCover;
-    case kTavern: return game.tavernCover;
-    case kChurch: return game.churchCover;
-    default: return game.doctorCover;
+    case kMarket:
+      return game.marketCover;
+    case kSchool:
+      return game.schoolCover;
+    case kTavern:
+      return game.tavernCover;
+    case kChurch:
+      return game.churchCover;
+    default:
+      return game.doctorCover;
   }
 }
 inline const CellGrid<Flag>& coverGrid(const GameState& game, int k) {
@@ -131,11 +141,16 @@ inline const CellGrid<Flag>& coverGrid(const GameState& game, int k) {
 /// Rating of service k, 1..5.
 inline Number& rating(GameState& game, int k) {
   switch (k) {
-    case kMarket: return game.marketRating;
-    case kSchool: return game.schoolRating;
-    case kTavern: return game.tavernRating;
-    case kChurch: return game.churchRating;
-    default: return game.doctorRating;
+    case kMarket:
+      return game.marketRating;
+    case kSchool:
+      return game.schoolRating;
+    case kTavern:
+      return game.tavernRating;
+    case kChurch:
+      return game.churchRating;
+    default:
+      return game.doctorRating;
   }
 }
 

@@ -1,5 +1,5 @@
-// The timers of the game screen. They and the clicks are all the control flow that a game has: which
-// handler a tick runs stands in shell/game_handlers.cpp.
+// The timers of the game screen. They and the clicks are all the control flow that a game has:
+// which handler a tick runs stands in shell/game_handlers.cpp.
 #pragma once
 
 #include <array>

@@ -13,9 +13,12 @@ inline constexpr int kDemonstration = 16;
 inline constexpr int kFirstPuzzle = 20;
 inline constexpr int kLastPuzzle = 29;
 
-constexpr bool isPuzzle(double mission) { return mission >= kFirstPuzzle && mission <= kLastPuzzle; }
+constexpr bool isPuzzle(double mission) {
+  return mission >= kFirstPuzzle && mission <= kLastPuzzle;
+}
 
-/// Goal of campaign mission 1..10 as the briefing gives it, with its leading blank; empty otherwise.
+/// Goal of campaign mission 1..10 as the briefing gives it, with its leading blank; empty
+/// otherwise.
 std::string_view missionGoal(int mission);
 
 /// Goal of a puzzle level, gMission 20..29, as the goal strip gives it; empty otherwise.

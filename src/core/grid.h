@@ -40,8 +40,8 @@ class Row {
   std::array<T, static_cast<std::size_t>(High - Low + 1)> cells_{};
 };
 
-/// A table addressed (x, y) with x in LowX .. HighX and y in LowY .. HighY; the cells of one y stand
-/// side by side, as most scans run over y outside and x inside.
+/// A table addressed (x, y) with x in LowX .. HighX and y in LowY .. HighY; the cells of one y
+/// stand side by side, as most scans run over y outside and x inside.
 template <class T, int LowX, int HighX, int LowY, int HighY>
 class Table {
  public:

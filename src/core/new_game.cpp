@@ -45,14 +45,34 @@ void resetGame(GameState& game, ProgramValues& values) {
   clearWalkers(game);
   for (int n = 1; n <= kTools; ++n) game.toolUnlocked[n] = 0;
 
-  for (Number* number :
-       {&game.food, &game.population, &game.housingCapacity, &game.farmCount, &game.marketRating,
-        &game.schoolRating, &game.tavernRating, &game.churchRating, &game.doctorRating,
-        &game.taxPerTick, &game.maintenancePerTick, &game.maintenancePerMonth, &game.taxThisMonth,
-        &game.maintenanceThisMonth, &game.constructionThisMonth, &game.tickOfMonth,
-        &game.buildingHousing, &game.roadNeighbourCount, &game.overlayView, &game.newsTicks,
-        &game.hoverLabel, &game.freeWalkerSlot, &game.cellOriginX, &game.cellOriginY,
-        &game.churchUnlocked, &game.schoolUnlocked, &game.doctorUnlocked, &game.tavernUnlocked}) {
+  for (Number* number : {&game.food,
+                         &game.population,
+                         &game.housingCapacity,
+                         &game.farmCount,
+                         &game.marketRating,
+                         &game.schoolRating,
+                         &game.tavernRating,
+                         &game.churchRating,
+                         &game.doctorRating,
+                         &game.taxPerTick,
+                         &game.maintenancePerTick,
+                         &game.maintenancePerMonth,
+                         &game.taxThisMonth,
+                         &game.maintenanceThisMonth,
+                         &game.constructionThisMonth,
+                         &game.tickOfMonth,
+                         &game.buildingHousing,
+                         &game.roadNeighbourCount,
+                         &game.overlayView,
+                         &game.newsTicks,
+                         &game.hoverLabel,
+                         &game.freeWalkerSlot,
+                         &game.cellOriginX,
+                         &game.cellOriginY,
+                         &game.churchUnlocked,
+                         &game.schoolUnlocked,
+                         &game.doctorUnlocked,
+                         &game.tavernUnlocked}) {
     *number = 0;
   }
   for (int n = 1; n <= 13; ++n) game.reserved[n] = 0;
@@ -78,10 +98,17 @@ void resetGame(GameState& game, ProgramValues& values) {
   game.famineState = 1;
 
   switch (values.gStartMoney) {
-    case 1: game.gold = 300; break;
-    case 2: game.gold = 600; break;
-    case 3: game.gold = 1000; break;
-    default: break;
+    case 1:
+      game.gold = 300;
+      break;
+    case 2:
+      game.gold = 600;
+      break;
+    case 3:
+      game.gold = 1000;
+      break;
+    default:
+      break;
   }
 }
 

@@ -1,7 +1,7 @@
 // The words of the map: tile codes, picture numbers, tools, buildings.
 //
-// A building is the set of cells with one building id. Its anchor is the cell with the lowest x and y,
-// and the anchor's code stands for the building in scans.
+// A building is the set of cells with one building id. Its anchor is the cell with the lowest x and
+// y, and the anchor's code stands for the building in scans.
 #pragma once
 
 #include <array>
@@ -21,8 +21,12 @@ inline constexpr int kTavernCode = 41;
 inline constexpr int kChurchCode = 51;
 inline constexpr int kFarmCode = 81;
 
-constexpr bool isResidenceCode(int code) { return code >= 11 && code <= 14; }
-constexpr bool isFarmCode(int code) { return code > 80 && code < 90; }
+constexpr bool isResidenceCode(int code) {
+  return code >= 11 && code <= 14;
+}
+constexpr bool isFarmCode(int code) {
+  return code > 80 && code < 90;
+}
 /// Codes that a cell can have.
 constexpr bool isTileCode(int code) {
   return code == 0 || code == 6 || code == 7 || (code >= 81 && code <= 89) ||
@@ -34,11 +38,16 @@ constexpr int serviceOfCode(int code) {
   if (code == kDoctorCode) return kDoctor;
   if (code % 10 < 1 || code % 10 > 4) return 0;
   switch (code / 10) {
-    case 2: return kMarket;
-    case 3: return kSchool;
-    case 4: return kTavern;
-    case 5: return kChurch;
-    default: return 0;
+    case 2:
+      return kMarket;
+    case 3:
+      return kSchool;
+    case 4:
+      return kTavern;
+    case 5:
+      return kChurch;
+    default:
+      return 0;
   }
 }
 
@@ -89,7 +98,7 @@ inline constexpr std::array<CellOffset, 4> kNeighbours{{{-1, 0}, {1, 0}, {0, -1}
 
 /// What a 2x2 building writes on its four cells, in the order of kBlock.
 struct BlockDesign {
-  int firstCode;               // the cells get firstCode, +1, +2, +3
+  int firstCode;  // the cells get firstCode, +1, +2, +3
   std::array<int, 4> images;
   std::array<int, 4> tall;
 };
@@ -104,20 +113,25 @@ inline constexpr BlockDesign kChurchBlock{kChurchCode, {14, 32, 18, 15}, {1, 1, 
 /// The 2x2 building that tool 1..5 places.
 constexpr const BlockDesign& blockOfTool(int tool) {
   switch (tool) {
-    case 2: return kMarketBlock;
-    case 3: return kSchoolBlock;
-    case 4: return kTavernBlock;
-    case 5: return kChurchBlock;
-    default: return kTent;
+    case 2:
+      return kMarketBlock;
+    case 3:
+      return kSchoolBlock;
+    case 4:
+      return kTavernBlock;
+    case 5:
+      return kChurchBlock;
+    default:
+      return kTent;
   }
 }
 
 /// One row for each tool: what it costs, and what the palette says of it.
 struct ToolDesign {
-  int price;             // gold, paid once
-  int maintenance;       // gold a month
-  int footprint;         // side in cells
-  const char* current;   // palette line when the tool is picked
+  int price;            // gold, paid once
+  int maintenance;      // gold a month
+  int footprint;        // side in cells
+  const char* current;  // palette line when the tool is picked
   const char* priceText;
 };
 // clang-format off

@@ -1,0 +1,19 @@
+// The tool palette, and the switch between building and asking.
+#pragma once
+
+#include "play/scene.h"
+
+namespace play {
+
+/// A click on entry `index`, 0..8, of the palette takes tool index + 1 in hand.
+void selectTool(Scene& scene, int index);
+/// Build mode; it always begins with the road.
+void enterBuildMode(Scene& scene);
+void enterInfoMode(Scene& scene);
+
+/// The captions and the tool of a city that was taken over from a file: info mode.
+void resetPaletteAfterLoad(Scene& scene);
+/// Shows the buttons of the tools that the milestones have unlocked, and hides the others.
+void showUnlockedTools(Scene& scene);
+
+}  // namespace play

@@ -1,0 +1,67 @@
+#include "play/panels.h"
+
+#include "core/goals.h"
+#include "core/number_text.h"
+#include "map/views.h"
+#include "play/press.h"
+#include "sim/coverage.h"
+#include "sim/residences.h"
+
+namespace play {
+
+namespace {
+
+void changeTax(Scene& scene, double rate) {
+  core::GameState& game = scene.game;
+  game.taxRate = rate;
+  core::setCaption(scene.text(ui::showtaxrate), "", game.taxRate);
+  sim::rebuildCoverage(game);
+  sim::rebuildCapacity(game);
+  sim::evolveResidences(game);
+  if (game.overlayView == 0) {
+    redraw(scene);
+    map::unmarkCells(game, 0, core::kLastCell);
+  }
+}
+
+}  // namespace
+
+void showGoal(Scene& scene) {
+  scene.cue(sound::kClick);
+  core::writeGoalNotice(scene.text(ui::bilgilabel), scene.values.gMission.whole());
+  showNotice(scene);
+}
+
+void chooseView(Scene& scene, int view) {
+  platform::Form& form = scene.form;
+  scene.cue(sound::kClick);
+  scene.game.overlayView = view;
+  map::applyOverlayView(scene.stage);
+  scene.text(ui::currentview).assign(map::viewName(view));
+  if (view != 0 && !form[ui::statusframe].visible) {
+    form.moveTo(ui::Frame13, 100, 520);
+    form.show(ui::Frame13);
+  }
+  if (view != 0 && form[ui::Frame21].visible) form.hide(ui::Frame21);
+  if (view == 0 && !form[ui::Frame21].visible && scene.values.gMission >= core::kFirstPuzzle) {
+    form.show(ui::Frame21);
+  }
+  if (view == 0) form.hide(ui::Frame13);
+}
+
+void raiseTax(Scene& scene) {
+  const double rate = scene.game.taxRate + 5;
+  changeTax(scene, rate >= 35 ? 30 : rate);
+}
+
+void lowerTax(Scene& scene) {
+  const double rate = scene.game.taxRate - 5;
+  changeTax(scene, rate <= -5 ? 0 : rate);
+}
+
+void showGameMenu(Scene& scene) {
+  scene.form.moveTo(ui::gamemenu, 250, 210);
+  scene.form.show(ui::gamemenu);
+}
+
+}  // namespace play

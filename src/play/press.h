@@ -1,0 +1,22 @@
+// A press on the map: the one act by which the player changes the city.
+#pragma once
+
+#include "play/scene.h"
+
+namespace play {
+
+/// A press at pixel (x, y) of the map surface, with whatever tool is in hand. One press is one
+/// action; a refusal is one message, and changes nothing else.
+void pressMap(Scene& scene, double x, double y);
+
+/// What the press does once its cell stands in cellX, cellY and nothing forbids it: places or
+/// demolishes with tool 1..9. `cause` says whether a press of the player started it.
+enum class Hand { player, demonstration };
+void useTool(Scene& scene, int tool, Hand hand);
+
+/// Redraws the dirty cells and the tall ones, as after every build click and after the earthquake.
+void redrawAfterBuild(Scene& scene);
+/// Redraws the dirty cells and the tall ones, as after every other change.
+void redraw(Scene& scene);
+
+}  // namespace play

@@ -1,0 +1,44 @@
+#include "sound/music.h"
+
+#include <array>
+
+namespace sound {
+
+namespace {
+
+struct Schedule {
+  int ownCycle;   // seconds until the track, chosen alone, starts over
+  int autoStart;  // second of auto play at which it starts
+};
+constexpr std::array<Schedule, 5> kSchedule{
+    {{83, 1}, {126, 83}, {165, 208}, {154, 371}, {130, 525}}};
+constexpr int kAutoCycle = 658;
+
+}  // namespace
+
+bool chooseMusic(core::GameState& game, MusicChoice choice) {
+  game.musicAuto = 0;
+  if (choice == MusicChoice::off) return false;
+  game.musicTrack = choice == MusicChoice::autoPlay
+                        ? 0
+                        : static_cast<int>(choice) - static_cast<int>(MusicChoice::track1) + 1;
+  return true;
+}
+
+int countMusicSecond(core::GameState& game) {
+  game.musicAuto += 1;
+  if (game.musicTrack != 0) return game.musicAuto == 1 ? game.musicTrack : 0;
+  for (int track = 1; track <= 5; ++track) {
+    if (kSchedule[static_cast<std::size_t>(track - 1)].autoStart == game.musicAuto) return track;
+  }
+  return 0;
+}
+
+void closeMusicCycle(core::GameState& game) {
+  const int cycle = game.musicTrack == 0
+                        ? kAutoCycle
+                        : kSchedule[static_cast<std::size_t>(game.musicTrack - 1)].ownCycle;
+  if (game.musicAuto >= cycle) game.musicAuto = 0;
+}
+
+}  // namespace sound
