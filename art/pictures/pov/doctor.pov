@@ -1,34 +1,37 @@
-// doctor.pov -- one cell, tall.  White walls, light grey slate, a herb garden.
+// doctor.pov -- one cell, tall.  White walls, light grey slate, a green cross
+// in the gable, a herb bed.
 #version 3.7;
 #include "iso.inc"
 #include "kit.inc"
 Ground()
-Cobbles(0.05, 0.05, 0.95, 0.95, 0.085, C("D6CFBF"), 130)
-#declare X0 = 0.17; #declare Y0 = 0.14; #declare X1 = 0.80; #declare Y1 = 0.66; #declare H = 0.46;
-#declare White = C("F6F3EA");
-box { <X0-0.02, Y0-0.02, 0>, <X1+0.02, Y1+0.02, 0.06> mPlain(C("B9BCC0")) }
+Cobbles(0.03, 0.03, 0.97, 0.97, 0.085, C("DAD5C8"), 130)
+#declare White = C("FBF9F2"); #declare Roof = C("B9C1CB"); #declare Green = C("1F8F52");
+#declare X0 = 0.10; #declare Y0 = 0.10; #declare X1 = 0.84; #declare Y1 = 0.58; #declare H = 0.44;
+#declare Gx0 = 0.22; #declare Gx1 = 0.66; #declare Gy = 0.70; #declare Gm = (Gx0+Gx1)/2;
+box { <X0-0.02, Y0-0.02, 0>, <X1+0.02, Y1+0.02, 0.05> mPlain(C("AEB3B8")) }
+box { <Gx0-0.02, Y1, 0>, <Gx1+0.02, Gy+0.02, 0.05> mPlain(C("AEB3B8")) }
 box { <X0, Y0, 0>, <X1, Y1, H> mPlaster(White) }
+box { <Gx0, Y1-0.1, 0>, <Gx1, Gy, H> mPlaster(White) }
 GableWall(X0, Y0, X1, Y1, H, 0.30, 0, White)
-GableRoof(X0, Y0, X1, Y1, H, 0.30, 0, 0.05, C("B4BBC4"), 0.12, 131)
-box { <X0-0.015, Y0, 0.245>, <X1+0.015, Y1+0.015, 0.265> mPlain(C("C6CACE")) }
-#declare Teal = C("3F8F7E");
-Window(<X0+0.13, Y1, 0.31>, x, 0.075, 0.11, 0, Teal)
-Window(<X0+0.50, Y1, 0.31>, x, 0.075, 0.11, 0, Teal)
-Window(<X0+0.50, Y1, 0.10>, x, 0.075, 0.11, 0, Teal)
-Door(<X0+0.15, Y1, 0.02>, x, 0.11, 0.21, Teal)
-Window(<X1, Y1-0.14, 0.31>, -y, 0.07, 0.11, 0, Teal)
-Window(<X1, Y0+0.13, 0.31>, -y, 0.07, 0.11, 0, Teal)
-Window(<X1, Y1-0.14, 0.10>, -y, 0.07, 0.11, 0, Teal)
-Window(<X1, Y0+0.13, 0.10>, -y, 0.07, 0.11, 0, Teal)
-// sign: a green cross on white, over the lit wall
-box { <X0+0.235, Y1, 0.29>, <X0+0.395, Y1+0.03, 0.45> mPlain(C("FFFFFF")) }
-box { <X0+0.295, Y1+0.02, 0.30>, <X0+0.335, Y1+0.04, 0.44> mPlain(C("2E9A5C")) }
-box { <X0+0.245, Y1+0.02, 0.35>, <X0+0.385, Y1+0.04, 0.39> mPlain(C("2E9A5C")) }
-Chimney(<0.32, 0.30, H+0.10>, 0.09, 0.22)
-// herbs in front
-box { <0.44, 0.76, 0>, <0.86, 0.92, 0.02> mDirt(cSoil) }
-Bush(<0.50, 0.84, 0.01>, 0.05, cLeaf, 132)
-FlowerBush(<0.62, 0.84, 0.01>, 0.05, cLeaf, C("C79BE0"), 133)
-FlowerBush(<0.74, 0.84, 0.01>, 0.05, cLeaf, C("F4F0E0"), 134)
-Bush(<0.83, 0.84, 0.01>, 0.045, cLeafDark, 135)
-Bush(<0.90, 0.30, 0.0>, 0.06, cLeafDark, 136)
+GableRoof(X0, Y0, X1, Y1, H, 0.30, 0, 0.045, Roof, 0.11, 131)
+GableWall(Gx0, 0.34, Gx1, Gy, H, 0.28, 1, White)
+GableRoof(Gx0, 0.34, Gx1, Gy, H, 0.28, 1, 0.04, Roof, 0.11, 132)
+// the cross, over the door
+box { <Gm-0.028, Gy, 0.38>, <Gm+0.028, Gy+0.03, 0.58> mPlain(Green) }
+box { <Gm-0.095, Gy, 0.452>, <Gm+0.095, Gy+0.03, 0.508> mPlain(Green) }
+Door(<Gm, Gy, 0.01>, x, 0.12, 0.25, C("4A7F9E"))
+Window(<Gm-0.155, Gy, 0.13>, x, 0.055, 0.12, 0, White)
+Window(<Gm+0.155, Gy, 0.13>, x, 0.055, 0.12, 0, White)
+Window(<X1, Y1-0.13, 0.15>, -y, 0.08, 0.14, 0, White)
+Window(<X1, Y0+0.13, 0.15>, -y, 0.08, 0.14, 0, White)
+Window(<X1, (Y0+Y1)/2, 0.47>, -y, 0.07, 0.10, 0, White)
+Window(<X1-0.08, Y1, 0.15>, x, 0.06, 0.12, 0, White)
+Chimney(<0.72, 0.24, H+0.10>, 0.085, 0.22)
+// herbs
+box { <0.12, 0.80, 0>, <0.34, 0.93, 0.02> mDirt(cSoil) }
+box { <0.60, 0.80, 0>, <0.88, 0.93, 0.02> mDirt(cSoil) }
+Bush(<0.17, 0.86, 0.01>, 0.045, cLeaf, 133)
+FlowerBush(<0.28, 0.86, 0.01>, 0.045, cLeaf, C("B98AE0"), 134)
+FlowerBush(<0.66, 0.86, 0.01>, 0.045, cLeaf, C("F4F0E0"), 135)
+FlowerBush(<0.79, 0.86, 0.01>, 0.05, cLeaf, C("B98AE0"), 136)
+Bush(<0.92, 0.66, 0.0>, 0.06, cLeafDark, 137)

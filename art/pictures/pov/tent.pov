@@ -4,33 +4,39 @@
 #include "iso.inc"
 #include "kit.inc"
 Ground()
-#declare Yr = 0.56; #declare Zr = 0.39;          // ridge along x
-#declare Xa = 0.50; #declare Xb = 0.86;          // ridge from, to
-#declare X0 = 0.36; #declare Y0 = 0.32; #declare Y1 = 0.80;
-#declare N = 6;
+#declare Yr = 0.575; #declare Zr = 0.445;        // ridge along x
+#declare Xa = 0.56; #declare Xb = 0.88;          // ridge from, to
+#declare X0 = 0.30; #declare Y0 = 0.28; #declare Y1 = 0.88;
+#declare Band = C("C2A176"); #declare Rope = C("D8C49A");
+cylinder { 0, z*0.004, 0.40 scale <1.05,0.98,1> translate <0.60,0.58,0> mDirt(C("8F8050")) }
+#declare N = 7;
 #declare I = 0;
-// trodden earth
-cylinder { 0, z*0.004, 0.34 scale <1.1,0.95,1> translate <0.62,0.60,0> mDirt(C("8A7A48")) }
 #while (I < N)                                   // lit slope in bands of canvas
   #declare A = I/N; #declare B = (I+1)/N;
-  #declare Cc = (mod(I,2) = 0 ? cCanvas : C("D9A95A"));
-  #declare Pa = <X0 + (Xb-X0)*A, Y1, 0.02>; #declare Pb = <X0 + (Xb-X0)*B, Y1, 0.02>;
+  #declare Cc = (mod(I,2) = 0 ? cCanvas : Band);
+  #declare Pa = <X0 + (Xb-X0)*A, Y1, 0.015>; #declare Pb = <X0 + (Xb-X0)*B, Y1, 0.015>;
   #declare Qa = <Xa + (Xb-Xa)*A, Yr, Zr>; #declare Qb = <Xa + (Xb-Xa)*B, Yr, Zr>;
-  #declare Ma = (Pa+Qa)/2 - <0,0.02,0.02>; #declare Mb = (Pb+Qb)/2 - <0,0.02,0.02>;
+  #declare Ma = (Pa+Qa)/2 - <0,0.022,0.028>; #declare Mb = (Pb+Qb)/2 - <0,0.022,0.028>;
   mesh { triangle { Pa, Pb, Mb } triangle { Pa, Mb, Ma } triangle { Ma, Mb, Qb } triangle { Ma, Qb, Qa } mPlain(Cc) }
+  cylinder { Pa, Pb, 0.014 mPlain(Band*0.7) }
   #declare I = I + 1;
 #end
 mesh { triangle { <X0,Y0,0>, <Xb,Y0,0>, <Xb,Yr,Zr> } triangle { <X0,Y0,0>, <Xb,Yr,Zr>, <Xa,Yr,Zr> } mPlain(cCanvas*0.9) }
-mesh { triangle { <X0,Y0,0>, <X0,Y1,0.02>, <Xa,Yr,Zr> } mPlain(cCanvas) }
-// front: flaps tied back from a dark entrance
-mesh { triangle { <Xb-0.05,Y0,0>, <Xb-0.05,Y1,0>, <Xb-0.05,Yr,Zr> } mPlain(C("3A2A1C")) }
-mesh { triangle { <Xb,Y1,0.01>, <Xb+0.01,Yr+0.09,0.01>, <Xb,Yr,Zr> } mPlain(cCanvas*1.05) }
-mesh { triangle { <Xb,Y0,0.01>, <Xb+0.01,Yr-0.09,0.01>, <Xb,Yr,Zr> } mPlain(cCanvas*1.05) }
-cylinder { <Xb,Yr,0>, <Xb,Yr,Zr+0.03>, 0.013 mPlain(cBeam) }
-cylinder { <Xa-0.01,Yr,Zr>, <Xb+0.03,Yr,Zr>, 0.014 mPlain(cWood) }
-// guy ropes
-cylinder { <Xb,Yr,Zr>, <1.0,Yr+0.02,0>, 0.006 mPlain(C("C8B48A")) }
-cylinder { <X0+0.1,Y1,0.04>, <X0+0.06,Y1+0.11,0>, 0.006 mPlain(C("C8B48A")) }
-cylinder { <Xb-0.05,Y1,0.04>, <Xb-0.03,Y1+0.11,0>, 0.006 mPlain(C("C8B48A")) }
-Crate(<0.22, 0.62, 0>, 0.10, 0.07, 12, cApple, 3)
-Sack(<0.20, 0.78, 0>, 0.045)
+mesh { triangle { <X0,Y0,0>, <X0,Y1,0.015>, <Xa,Yr,Zr> } mPlain(cCanvas) }
+// front: flaps tied back from a dark entrance, a pole and a pennant
+mesh { triangle { <Xb-0.06,Y0+0.01,0>, <Xb-0.06,Y1-0.01,0>, <Xb-0.02,Yr,Zr-0.01> } mPlain(C("3A2A1C")) }
+mesh { triangle { <Xb,Y1,0.01>, <Xb+0.02,Yr+0.10,0.01>, <Xb,Yr,Zr> } mPlain(cCanvas*1.08) }
+mesh { triangle { <Xb,Y0,0.01>, <Xb+0.02,Yr-0.10,0.01>, <Xb,Yr,Zr> } mPlain(cCanvas*1.08) }
+cylinder { <Xb,Yr,0>, <Xb,Yr,Zr>, 0.014 mPlain(cBeam) }
+cylinder { <Xa-0.01,Yr,Zr>, <Xb+0.02,Yr,Zr>, 0.016 mPlain(Band*0.8) }
+cylinder { <Xb,Yr,Zr>, <1.0,Yr+0.03,0>, 0.006 mPlain(Rope) }
+cylinder { <X0+0.08,Y1,0.03>, <X0+0.05,Y1+0.09,0>, 0.006 mPlain(Rope) }
+cylinder { <Xb-0.06,Y1,0.03>, <Xb-0.05,Y1+0.09,0>, 0.006 mPlain(Rope) }
+// a hearth of stones
+#declare I = 0;
+#while (I < 7)
+  sphere { <0.042*cos(I*0.9), 0.042*sin(I*0.9), 0.012>, 0.018 translate <0.20,0.50,0> mPlain(cStone*(0.85+0.05*I)) }
+  #declare I = I + 1;
+#end
+sphere { 0, 0.024 scale <1,1,1.3> translate <0.20,0.50,0.02> mPlain(C("F08A2A")) }
+cylinder { <0.14,0.68,0.02>, <0.25,0.72,0.02>, 0.02 mPlain(cWood) }

@@ -1,5 +1,7 @@
-// walker.pov -- a person on foot, feet at the middle of a 1-cell canvas.
-// Dir 0..3: walking along +x, +y, -x, -y.  Step 0..3.  Who: kind of person.
+// walker.pov -- a person on foot; the feet are at the middle of a cell.
+// Dir 0..3: walking along +x, +y, -x, -y.  Step 0..3 of the gait: 0 and 2 pass,
+// 1 and 3 stride.  Who: 0 a man in blue, 1 a woman in red with an apron, 2 a
+// farmer with a straw hat, 3 a woman in green with a basket.
 #version 3.7;
 #include "iso.inc"
 #include "kit.inc"
@@ -7,31 +9,43 @@
 #ifndef (Step) #declare Step = 1; #end
 #ifndef (Who) #declare Who = 0; #end
 Ground()
-#declare Sw = 0.075*sin(Step*pi/2);
-#declare Bob = 0.012*abs(cos(Step*pi/2));
+
+#declare Lift = 0.030*abs(cos(Step*pi/2));     // the passing foot is off the ground
+#declare Bob = 0.014*abs(cos(Step*pi/2));
+#declare Skirt = (Who = 1 | Who = 3);
+#declare Sw = (Skirt ? 0.052 : 0.088)*sin(Step*pi/2);
 #switch (Who)
-  #case (0) #declare cCoat = C("3F6FC0"); #declare cHat = C("8A5A2A"); #declare cLegs = C("6A5038"); #break
-  #case (1) #declare cCoat = C("C23A30"); #declare cHat = C("E8D8B0"); #declare cLegs = C("8A3028"); #break
-  #case (3) #declare cCoat = C("4E8A4A"); #declare cHat = C("F0E6D0"); #declare cLegs = C("3F6A44"); #break
-  #case (2) #declare cCoat = C("E9E4D6"); #declare cHat = C("D8B24A"); #declare cLegs = C("B8B0A0"); #break
+  #case (0) #declare cCoat = C("3A6CC4"); #declare cHair = C("6E4322"); #declare cLegs = C("D8C79C"); #break
+  #case (1) #declare cCoat = C("C8423A"); #declare cHair = C("F2E4C4"); #declare cLegs = C("A83430"); #break
+  #case (2) #declare cCoat = C("EFE9D8"); #declare cHair = C("E2BC50"); #declare cLegs = C("7A5634"); #break
+  #case (3) #declare cCoat = C("55934C"); #declare cHair = C("8A4A24"); #declare cLegs = C("48803F"); #break
 #end
-#declare cSkin = C("EDBB94");
+#declare cSkin = C("F0C09A"); #declare cShoe = C("3A281A");
+#macro Leg(Side, Reach, Up)
+  cone { <Reach, 0.030*Side, 0.02+Up>, 0.025, <0, 0.026*Side, 0.16>, 0.036 mPlain((Skirt ? cShoe : cLegs)) }
+  sphere { 0, 1 scale <0.042, 0.026, 0.022> translate <Reach+0.012, 0.030*Side, 0.018+Up> mPlain(cShoe) }
+#end
 union {
-  // legs swing, arms swing against them; heads are big so that they read
-  cone { <Sw, 0.028, 0>, 0.026, <0, 0.024, 0.13>, 0.036 mPlain(cLegs) }
-  cone { <-Sw, -0.028, 0>, 0.026, <0, -0.024, 0.13>, 0.036 mPlain(cLegs*0.85) }
+  Leg(1, Sw, 0)
+  Leg(-1, -Sw, Lift)
   union {
-    #if (Who = 1 | Who = 3) cone { <0,0,0.03>, 0.085, <0,0,0.17>, 0.050 mPlain(cLegs) } #end
-    cone { <0,0,0.10>, 0.070, <0,0,0.27>, 0.056 mPlain(cCoat) }
-    cylinder { <0,0,0.150>, <0,0,0.170>, 0.068 mPlain(cBeamDark) }
-    cone { <0,0.060,0.26>, 0.026, <-Sw*0.9, 0.078, 0.14>, 0.022 mPlain(cCoat*0.92) }
-    cone { <0,-0.060,0.26>, 0.026, <Sw*0.9, -0.078, 0.14>, 0.022 mPlain(cCoat*0.92) }
-    sphere { <-Sw*0.9, 0.078, 0.135>, 0.022 mPlain(cSkin) }
-    sphere { <Sw*0.9, -0.078, 0.135>, 0.022 mPlain(cSkin) }
+    #if (Skirt)
+      cone { <0,0,0.060>, 0.086, <0,0,0.18>, 0.050 mPlain(cLegs) }
+      cone { <0.022,0,0.075>, 0.068, <0.018,0,0.18>, 0.040 mPlain((Who = 1 ? C("F4EBD8") : cLegs*1.15)) }
+    #else
+      cone { <0,0,0.120>, 0.068, <0,0,0.18>, 0.056 mPlain(cCoat) }
+    #end
+    cone { <0,0,0.155>, 0.058, <0,0,0.275>, 0.054 mPlain(cCoat) }
+    cylinder { <0,0,0.160>, <0,0,0.176>, 0.061 mPlain(cBeamDark) }
+    cone { <0,0.058,0.265>, 0.025, <-Sw*0.8, 0.072, 0.16>, 0.021 mPlain(cCoat*0.90) }
+    cone { <0,-0.058,0.265>, 0.025, <Sw*0.8, -0.072, 0.16>, 0.021 mPlain(cCoat*0.90) }
+    sphere { <-Sw*0.8, 0.072, 0.150>, 0.023 mPlain(cSkin) }
+    sphere { <Sw*0.8, -0.072, 0.150>, 0.023 mPlain(cSkin) }
     // head a little forward, hair and hat well back: the face shows from in front
-    sphere { <0.014,0,0.318>, 0.054 mPlain(cSkin) }
-    sphere { 0, 0.056 scale <0.9,1.05,0.80> translate <-0.022,0,0.340> mPlain(cHat) }
-    #if (Who = 2) cylinder { 0, z*0.008, 0.078 rotate -y*24 translate <-0.022,0,0.352> mPlain(cHat*0.9) } #end
+    sphere { <0.016,0,0.322>, 0.055 mPlain(cSkin) }
+    sphere { 0, 0.057 scale <0.9,1.05,0.82> translate <-0.022,0,0.344> mPlain(cHair) }
+    #if (Who = 2) cylinder { 0, z*0.010, 0.082 rotate -y*16 translate <-0.012,0,0.348> mPlain(cHair*0.95) } #end
+    #if (Who = 3) sphere { 0, 0.045 scale <1,1,0.7> translate <0.05,-0.085,0.13> mPlain(C("C9985A")) } #end
     translate z*Bob
   }
   scale 0.86

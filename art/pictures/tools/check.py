@@ -1,7 +1,199 @@
-"""Checks of the map pictures in data/: run by art/render after rendering."""
+"""Checks of the map pictures in data/; art/render runs them at its end.
+
+Each check returns the lines of what is wrong."""
 import numpy as np
 from iso import *
+import buildings
+import roads
+import views
+import walkers
+
+FLAT = [0, 1, 2, 4, 7, 11, 13, 15, 16, 17, 19, 20, 28, 29, 30, 33, 34, 35, 37,
+        47, 49, 50, 51, 52, 54, 55, 58]
+TALL = [3, 8, 9, 10, 12, 14, 18, 25, 26, 27, 31, 32, 44, 45, 46, 59, 60, 61]
+BLOCKS = sorted(n for _, _, _, f in walkers.WALKS.values() for n in f) + [56, 57]
+SIZES = {**{n: (64, 32) for n in FLAT}, **{n: (64, 64) for n in TALL}, 5: (63, 33), 6: (63, 33)}
+WHOLE = [n for n in FLAT if n not in (7, 11, 15, 19, 30, 33, 34, 35, 47)]   # alone on their cell
+DIAMOND = diamond_mask()
+OFFSETS = {'n': (32, 32), 'e': (64, 48), 'w': (0, 48), 's': (32, 64)}       # flat boxes of the pieces
+
+
+def formats():
+    for n, size in sorted(SIZES.items()):
+        im = Image.open('%s/%02d.png' % (PAIR, n))
+        a = np.array(im)
+        if im.mode != 'RGBA' or im.size != size:
+            yield 'pair %02d is %s %s, not RGBA %s' % (n, im.mode, im.size, size)
+            continue
+        if not np.isin(a[..., 3], (0, 255)).all():
+            yield 'pair %02d has half-transparent pixels' % n
+        if a[a[..., 3] == 0][:, :3].any():
+            yield 'pair %02d has colour under transparent pixels' % n
+    for n in BLOCKS:
+        im = Image.open('%s/%02d.png' % (TILE, n))
+        if im.mode != 'RGB' or im.size != (12, 17):
+            yield 'tile %02d is %s %s, not RGB 12 x 17' % (n, im.mode, im.size)
+
+
+def diamonds():
+    """Cells partition the plane, flat pictures fill exactly their diamond and
+    the one-cell tall ones at least theirs."""
+    count = np.zeros((32 * 4, 64 * 4), int)
+    for X in range(-1, 8):
+        for Y in range(-8, 8):
+            x, y = 96 + 32 * (X - Y), 16 * (X + Y)
+            if 0 <= x <= 192 and 0 <= y <= 96:
+                count[y:y + 32, x:x + 64] += DIAMOND
+    if DIAMOND.sum() != 1024 or (count[32:96, 64:192] != 1).any():
+        yield 'the diamonds do not partition the plane'
+    for n in WHOLE:
+        if ((pair(n)[..., 3] > 0) != DIAMOND).any():
+            yield 'pair %02d is not exactly a diamond' % n
+    for n in (12, 27, 59, 60, 61):
+        if not (pair(n)[32:, :, 3] > 0)[DIAMOND].all():
+            yield 'pair %02d leaves holes in its cell' % n
+
+
+def footprints():
+    """Pieces of one drawing: no pixel twice, the whole footprint covered, none
+    below it, and the odd boxes lose nothing in a 64 x 32 box."""
+    whole = np.zeros((96, 128), bool)
+    whole[32:] = diamond_mask(2)
+    for name, (_, kind, _, numbers) in buildings.DRAWINGS.items():
+        if len(numbers) == 1:
+            continue
+        count = np.zeros((160, 256), int)
+        for n, (key, (px, py), tall) in zip(numbers, {'tall': PIECES_TALL, 'apt': PIECES_APT, 'flat': PIECES_FLAT}[kind]):
+            p = pair(n)
+            if n in buildings.ODD_BOX and p[32:, :, 3].any():
+                yield 'pair %02d has pixels in the row that is never drawn' % n
+            if p.shape[0] == 64 and not tall or p.shape[0] < 64 and tall:
+                yield 'pair %02d has the wrong height for its place' % n
+            p = p[:64 if tall else 32] if n in buildings.ODD_BOX else p
+            count[py:py + p.shape[0], px:px + p.shape[1]] += p[..., 3] > 0
+        if (count > 1).any():
+            yield '%s: %d pixels drawn by two pieces' % (name, (count > 1).sum())
+        if (count[:96, :128][whole] == 0).any():
+            yield '%s: %d pixels of the footprint left open' % (name, (count[:96, :128][whole] == 0).sum())
+        under = ~whole[32:]
+        under[:32] = False
+        if count[96:].any() or count[32:96, :128][under].any():
+            yield '%s draws below its footprint' % name
+
+
+def endless(n, along, w, h, x0, y0):
+    """Block of the straight road picture n repeated along and across, as read
+    back from its file."""
+    t = pair(n)
+    out = np.zeros((h, w, 4), np.uint8)
+    for k in range(-4, 5):
+        for j in range(-1, 2):
+            a, b = (k, j) if along == 'x' else (j, k)
+            blit(out, t, 32 * (a - b) - x0, 16 * (a + b) - y0)
+    return out
+
+
+def stripes():
+    """The straight roads do not change under a walker's step; patches are
+    pieces of them at every step; frames keep the road free on every side."""
+    for n, along, patch, (x, y), (dx, dy) in ((1, 'y', 56, (20, 6), (2, -1)), (2, 'x', 57, (24, 2), (2, 1))):
+        here = endless(n, along, 64, 32, 0, 0)
+        moved = endless(n, along, 64, 32, dx, dy)
+        if (here != moved)[DIAMOND].any():
+            yield 'picture %d changes under its step' % n
+        want = tile(patch)
+        for k in range(-16, 17):
+            if (endless(n, along, 12, 17, x + k * dx, y + k * dy) != want).any():
+                yield 'patch %d does not match picture %d at step %d' % (patch, n, k)
+                break
+        for person, heading, road, frames in walkers.WALKS.values():
+            if road != along:
+                continue
+            for f in frames:
+                a = tile(f)
+                if (a != want)[~walkers.CLEAR].any():
+                    yield 'frame %d: no free road around the figure' % f
+                if (a != want).any(-1).sum() < 40:
+                    yield 'frame %d shows nobody' % f
+
+
+def trail():
+    """Walks every direction over a straight road with the next frame at each
+    step and the patch at the end: nothing of the figure may stay."""
+    steps = {0: (2, -1), 1: (-2, 1), 2: (2, 1), 3: (-2, -1)}
+    for d, (_, _, along, frames) in walkers.WALKS.items():
+        n, patch = (1, 56) if along == 'y' else (2, 57)
+        clean = endless(n, along, 96, 80, -16, -24)
+        road = clean.copy()
+        x, y = (36, 30) if along == 'y' else (40, 26)
+        dx, dy = steps[d]
+        for k in range(-6, 7):
+            blit(road, tile(list(frames)[k % len(frames)]), x + k * dx, y + k * dy)
+        blit(road, tile(patch), x + 6 * dx, y + 6 * dy)
+        if (road != clean).any():
+            yield 'direction %d leaves %d pixels on the road' % (d, (road != clean).any(-1).sum())
+
+
+def joints():
+    """Every road picture shows, at the edge of each of its arms, the pixels of
+    the straight road; and the bit of the next cell that a walker's block
+    reaches at its last step is straight road as well."""
+    arms = {37: ('y-', 'x-', 'x+', 'y+'), 49: ('y-', 'x-'), 50: ('y-', 'x+'), 51: ('x-', 'y+'), 52: ('x+', 'y+')}
+    u, v = cell_uv()
+    for n, sides in arms.items():
+        a = pair(n)[..., :3].astype(int)
+        for side in sides:
+            ref = pair(1 if side[0] == 'y' else 2)[..., :3].astype(int)
+            rim = DIAMOND & ({'y-': v, 'y+': 1 - v, 'x-': u, 'x+': 1 - u}[side] < .035)
+            across = u if side[0] == 'y' else v
+            kerb = rim & ((across < .16) | (across > .84))
+            if np.abs(a - ref)[kerb].max() > 24:
+                yield 'picture %d: kerb broken at %s (%d)' % (n, side, np.abs(a - ref)[kerb].max())
+        if 'x+' in sides:
+            # a block of direction 3 at (22, 1) of the next cell along x
+            reach = np.zeros((32, 64), bool)
+            x, y = 22 + 32, 1 + 16
+            reach[y:y + 15, x:] = True
+            reach &= DIAMOND
+            bad = (pair(n) != pair(2))[reach].any(-1).sum()
+            if bad:
+                yield 'picture %d: a walker would leave %d pixels' % (n, bad)
+
+
+def colours():
+    for n, colour in views.LEGEND.items():
+        p = pair(n)
+        if tuple(p[16, 32, :3]) != colour:
+            yield 'pair %d has not the colour of the legend' % n
+        seen = {tuple(c) for c in p[DIAMOND][:, :3]}
+        if seen != {colour, views.OUTLINE}:
+            yield 'pair %d has other colours: %s' % (n, seen)
+        if tuple(p[0, 31, :3]) != views.OUTLINE or tuple(p[15, 1, :3]) != views.OUTLINE:
+            yield 'pair %d has no outline' % n
+    if pair(20)[DIAMOND][:, :3].any():
+        yield 'pair 20 does not blacken'
+
+
+def fields():
+    """Told apart by colour alone: bare and dark, green, light straw."""
+    mean = {n: pair(n)[DIAMOND][:, :3].mean(0) for n in (13, 54, 55, 0)}
+    luma = {n: float(m @ [.299, .587, .114]) for n, m in mean.items()}
+    if not luma[13] + 30 < luma[54] < luma[55] - 25:
+        yield 'field stages do not brighten: %s' % luma
+    if mean[54][1] < mean[54][0] or mean[55][0] < mean[55][1] or mean[13][0] < mean[13][1]:
+        yield 'field stages have wrong hues: %s' % mean
+
+
+CHECKS = [formats, diamonds, footprints, stripes, trail, joints, colours, fields]
 
 
 def main():
-    return 0
+    wrong = [line for check in CHECKS for line in check()]
+    for line in wrong:
+        print('wrong: ' + line)
+    print('check: %d checks, %d faults' % (len(CHECKS), len(wrong)))
+    return 1 if wrong else 0
+
+
+if __name__ == '__main__':
+    raise SystemExit(main())

@@ -8,7 +8,7 @@ stripes that match.  Bends and junctions use the same table by the distance
 from the grass corner they turn round."""
 import numpy as np
 from iso import *
-from grounds import grass
+from grounds import plain
 
 # Across the road: from this part of the width on, this colour.  Side 0 is the
 # one that the sun reaches, up and left.
@@ -24,6 +24,7 @@ STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
 EDGES = np.array([e for e, _ in PROFILE])
+SILL = to_lin(rgb('c4b9a2'))
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
@@ -48,11 +49,11 @@ def turn(a, b):
     return np.where(np.minimum(a, b) <= e, np.maximum(a, b), e + np.hypot(a - e, b - e))
 
 
-def shaded(a, b, side_a, side_b):
+def shaded(a, b, side_a, side_b, limit=1.):
     """Road round a grass corner.  side_a, side_b tell on which side of the
     profile the corner lies for the arm that crosses edge a or edge b; where
     they differ the two sides melt into one another along the bend."""
-    d = turn(a, b)
+    d = np.minimum(turn(a, b), limit)
     col = lambda side: table(1 - d if side else d)
     if side_a == side_b:
         return col(side_a)
@@ -88,13 +89,15 @@ def straight(along):
     return rgba(to_srgb(table(u if along == 'y' else v)), diamond_mask())
 
 
-def exact_arms(img, arms):
-    """Near the edge of an arm the picture is the straight road, to the pixel."""
+def exact_arms(img, vertex, only=None):
+    """Near the edges that the vertex lies between, the picture is the straight
+    road to the pixel (where `only` allows)."""
+    cu, cv = VERTEX[vertex]
     u, v = cell_uv()
-    for arm in arms:
-        near = {'y-': v, 'y+': 1 - v, 'x-': u, 'x+': 1 - u}[arm] < STRAIGHT
-        src = straight(arm[0])
-        near &= src[..., 3] > 0
+    a, b = np.abs(u - cu), np.abs(v - cv)
+    for along, near in (('x', (a < STRAIGHT) & (a < b)), ('y', (b < STRAIGHT) & (b <= a))):
+        src = straight(along)
+        near = near & (src[..., 3] > 0) & (only if only is not None else True)
         img[near] = src[near]
     return img
 
@@ -104,32 +107,40 @@ def corner(vertex):
     cu, cv = VERTEX[vertex]
     col = supersampled(lambda u, v: bend(vertex, u, v))
     far = supersampled(lambda u, v: np.clip((turn(np.abs(u - cu), np.abs(v - cv)) - .985) / .02, 0, 1)[..., None])
-    meadow = to_lin(grass(11, 64)[..., :3] / 255.)
+    meadow = to_lin(plain()[..., :3] / 255.)
     img = rgba(to_srgb(col * (1 - far) + meadow * far), diamond_mask())
-    return exact_arms(img, ('y-' if cv == 0 else 'y+', 'x-' if cu == 0 else 'x+'))
+    return exact_arms(img, vertex)
 
 
 def junction():
-    """Four arms; each quarter of the cell turns round its own vertex."""
+    """Four arms; each quarter of the cell turns round its own vertex.  A sill
+    of lighter stones lies across each arm: it closes the side that has no road
+    when three arms meet.  It leaves out what a walker's block covers."""
+    def sill(u, v):
+        du, dv = np.minimum(u, 1 - u), np.minimum(v, 1 - v)
+        along = np.where(du < dv, v, u)
+        edge = np.minimum(du, dv)
+        walked = (u > .5) & (du < dv) & (v < .30)
+        return (edge > .015) & (edge < .075) & (along > .17) & (along < .83) & ~walked, along
+
     def paint(u, v):
         out = np.zeros(u.shape + (3,))
-        for name, (cu, cv) in VERTEX.items():
+        for cu, cv in VERTEX.values():
             here = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
-            a, b = np.minimum(np.abs(u - cu), .5), np.minimum(np.abs(v - cv), .5)
-            d = np.minimum(turn(a, b), .5)
-            side = shaded_junction(a, b, d, cu, cv)
-            out[here] = side[here]
-        return out
+            a, b = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
+            out[here] = shaded(a, b, cu, cv, .5)[here]
+        stone, along = sill(u, v)
+        stones = SILL * np.where((along * 12) % 1 < .16, .62, 1)[..., None]
+        return np.where(stone[..., None], out * .45 + stones * .55, out)
+
     img = rgba(to_srgb(supersampled(paint)), diamond_mask())
+    u, v = cell_uv()
+    for name, (cu, cv) in VERTEX.items():
+        quarter = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
+        kerb = np.maximum(np.abs(u - cu), np.abs(v - cv)) < .17
+        walked = (u > 1 - STRAIGHT) & (v < .30)
+        exact_arms(img, name, quarter & (kerb | walked))
     return img
-
-
-def shaded_junction(a, b, d, cu, cv):
-    col = lambda side: across(1 - d if side else d)
-    if cu == cv:
-        return col(cu)
-    w = np.where(a + b > 0, a / np.maximum(a + b, 1e-9), .5)[..., None]
-    return col(cu) * (1 - w) + col(cv) * w
 
 
 def plane(along, w, h, x0, y0):
