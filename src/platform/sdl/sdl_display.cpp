@@ -1,0 +1,230 @@
+#include "platform/sdl/sdl_display.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+
+#include "platform/damage.h"
+#include "platform/png.h"
+#include "platform/sdl/window_manager.h"
+
+namespace platform {
+
+namespace {
+
+constexpr const char* kTitle = "Vellmoran";
+constexpr Size kPicture{kScreenWidth, kScreenHeight};
+
+// Which byte of a pixel holds a colour, told by its mask.
+int byteOf(Uint32 mask) {
+  int byte = 0;
+  while (byte < 3 && (mask >> (8 * byte)) != 0xFF) ++byte;
+#if SDL_BYTEORDER == SDL_BIG_ENDIAN
+  byte = 3 - byte;
+#endif
+  return byte;
+}
+
+bool isByte(Uint32 mask) {
+  return mask == 0xFFu || mask == 0xFF00u || mask == 0xFF0000u || mask == 0xFF000000u;
+}
+
+bool wholeBytes(const SDL_PixelFormat& format) {
+  return format.BytesPerPixel == 4 && isByte(format.Rmask) && isByte(format.Gmask) &&
+         isByte(format.Bmask);
+}
+
+// The largest whole factor that leaves a tenth of the desktop free.
+Size windowedSize(Size desktop) {
+  const int factor = std::max(
+      1, std::min(desktop.width * 9 / 10 / kScreenWidth, desktop.height * 9 / 10 / kScreenHeight));
+  return {kScreenWidth * factor, kScreenHeight * factor};
+}
+
+}  // namespace
+
+SdlDisplay::SdlDisplay(std::string icon) : icon_(std::move(icon)) {}
+
+SdlDisplay::~SdlDisplay() {
+  closeWindow();
+  if (videoStarted_) SDL_QuitSubSystem(SDL_INIT_VIDEO);
+}
+
+bool SdlDisplay::startVideo() {
+  if (videoStarted_) return true;
+  SDL_SetHint(SDL_HINT_APP_NAME, kTitle);
+  SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
+  SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+  if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
+    failure_ = SDL_GetError();
+    return false;
+  }
+  videoStarted_ = true;
+  // Straight to the window: a renderer behind the window's surface costs a tenth of a second at the
+  // start and a hundred megabytes. Only X has such a surface of its own.
+  const char* driver = SDL_GetCurrentVideoDriver();
+  if (driver != nullptr && std::strcmp(driver, "x11") == 0) {
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    managed_ = windowManagerRuns();
+  }
+  return true;
+}
+
+Size SdlDisplay::size() {
+  if (window_ != nullptr) return kPicture;
+  SDL_DisplayMode mode{};
+  if (!startVideo() || SDL_GetDesktopDisplayMode(0, &mode) != 0) return {};
+  return {mode.w, mode.h};
+}
+
+int SdlDisplay::change(Size size) {
+  if (size != kPicture) {
+    closeWindow();
+    return 0;
+  }
+  if (window_ != nullptr) return 0;
+  if (startVideo() && openWindow()) return 0;
+  std::fprintf(stderr, "vellmoran: no window: %s\n", failure_.c_str());
+  return -1;
+}
+
+bool SdlDisplay::openWindow() {
+  SDL_Rect desktop{0, 0, kScreenWidth, kScreenHeight};
+  SDL_GetDisplayBounds(0, &desktop);
+  windowed_ = windowedSize({desktop.w, desktop.h});
+  if (managed_) {
+    window_ =
+        SDL_CreateWindow(kTitle, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, windowed_.width,
+                         windowed_.height, SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
+  } else {
+    window_ =
+        SDL_CreateWindow(kTitle, desktop.x, desktop.y, desktop.w, desktop.h, SDL_WINDOW_BORDERLESS);
+  }
+  if (window_ == nullptr || SDL_GetWindowSurface(window_) == nullptr) {
+    failure_ = SDL_GetError();
+    closeWindow();
+    return false;
+  }
+  full_ = true;
+  SDL_SetWindowMinimumSize(window_, kScreenWidth / 2, kScreenHeight / 2);
+  SDL_SetWindowMouseGrab(window_, SDL_TRUE);
+  setIcon();
+  rearrange();
+  return true;
+}
+
+void SdlDisplay::closeWindow() {
+  if (window_ != nullptr) SDL_DestroyWindow(window_);
+  window_ = nullptr;
+  windowSize_ = {};
+  scaler_.reset();
+}
+
+void SdlDisplay::setIcon() {
+  std::vector<std::uint8_t> pixels;
+  Size size;
+  std::string error;
+  if (!readPngRgba(icon_, pixels, size, error)) return;
+  SDL_Surface* const icon = SDL_CreateRGBSurfaceWithFormatFrom(
+      pixels.data(), size.width, size.height, 32, size.width * 4, SDL_PIXELFORMAT_RGBA32);
+  if (icon == nullptr) return;
+  SDL_SetWindowIcon(window_, icon);
+  SDL_FreeSurface(icon);
+}
+
+void SdlDisplay::toggleFullScreen() {
+  if (window_ == nullptr) return;
+  full_ = !full_;
+  SDL_SetWindowMouseGrab(window_, full_ ? SDL_TRUE : SDL_FALSE);
+  if (managed_) {
+    SDL_SetWindowFullscreen(window_, full_ ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+  } else {
+    SDL_Rect place{0, 0, kScreenWidth, kScreenHeight};
+    SDL_GetDisplayBounds(SDL_GetWindowDisplayIndex(window_), &place);
+    if (!full_) {
+      place.x += (place.w - windowed_.width) / 2;
+      place.y += (place.h - windowed_.height) / 2;
+      place.w = windowed_.width;
+      place.h = windowed_.height;
+    }
+    SDL_SetWindowPosition(window_, place.x, place.y);
+    SDL_SetWindowSize(window_, place.w, place.h);
+  }
+  rearrange();
+}
+
+void SdlDisplay::rearrange() {
+  barsShown_ = false;
+  if (window_ == nullptr) return;
+  Size size;
+  SDL_GetWindowSize(window_, &size.width, &size.height);
+  if (size == windowSize_) return;
+  windowSize_ = size;
+  scaler_ =
+      std::make_unique<Scaler>(kPicture, Size{std::max(1, size.width), std::max(1, size.height)});
+}
+
+Point SdlDisplay::pictured(Point inWindow) const {
+  return scaler_ == nullptr ? inWindow : scaler_->pictured(inWindow);
+}
+
+void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> changed) {
+  if (window_ == nullptr) return;
+  SDL_Surface* const surface = SDL_GetWindowSurface(window_);
+  if (surface == nullptr) return;
+  if (Size{surface->w, surface->h} != windowSize_) {
+    // The surface is new and empty, and the events that will tell it are still to come.
+    windowSize_ = {surface->w, surface->h};
+    scaler_ = std::make_unique<Scaler>(kPicture, windowSize_);
+    barsShown_ = false;
+  }
+
+  std::array<SDL_Rect, DamageList::kCapacity + 1> shown;
+  std::size_t count = 0;
+  const Rect whole{0, 0, kScreenWidth, kScreenHeight};
+  const bool everything = !barsShown_ || changed.size() > shown.size();
+  if (!barsShown_) {
+    SDL_FillRect(surface, nullptr, SDL_MapRGB(surface->format, 0, 0, 0));
+    barsShown_ = true;
+  }
+  if (everything) changed = {&whole, 1};
+  // A display of another depth gets its pixels by way of a surface of 32 bits.
+  const bool direct = wholeBytes(*surface->format);
+  SDL_Surface* const target = direct ? surface
+                                     : SDL_CreateRGBSurfaceWithFormat(0, surface->w, surface->h, 32,
+                                                                      SDL_PIXELFORMAT_XRGB8888);
+  if (target == nullptr) return;
+  const PixelMemory memory{static_cast<std::uint8_t*>(target->pixels),
+                           static_cast<std::size_t>(target->pitch), byteOf(target->format->Rmask),
+                           byteOf(target->format->Gmask), byteOf(target->format->Bmask)};
+  if (SDL_MUSTLOCK(target)) SDL_LockSurface(target);
+  for (const Rect& rect : changed) {
+    const Rect part = scaler_->covered(rect);
+    if (part.empty()) continue;
+    scaler_->scale(framebuffer, part, memory);
+    shown[count++] = {part.left, part.top, part.width, part.height};
+  }
+  if (SDL_MUSTLOCK(target)) SDL_UnlockSurface(target);
+  if (!direct) {
+    for (std::size_t i = 0; i < count; ++i) {
+      SDL_Rect to = shown[i];
+      SDL_BlitSurface(target, &shown[i], surface, &to);
+    }
+    SDL_FreeSurface(target);
+  }
+  if (everything) {
+    SDL_UpdateWindowSurface(window_);
+  } else if (count > 0) {
+    SDL_UpdateWindowSurfaceRects(window_, shown.data(), static_cast<int>(count));
+  }
+}
+
+void SdlDisplay::message(const char* title, const char* text) {
+  std::fprintf(stderr, "%s: %s\n", title, text);
+  SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, title, text, window_);
+}
+
+}  // namespace platform

@@ -1,0 +1,59 @@
+// The window. It fills the desktop at the desktop's own mode and shows the 800 x 600 picture scaled
+// to fit; F11 and Alt+Enter make it an ordinary window and back.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/display.h"
+#include "platform/scaler.h"
+
+struct SDL_Window;
+
+namespace platform {
+
+class SdlDisplay : public Display {
+ public:
+  /// `icon` is the path of a PNG for the window; a missing one is no fault. Nothing is opened yet.
+  explicit SdlDisplay(std::string icon);
+  ~SdlDisplay() override;
+  SdlDisplay(const SdlDisplay&) = delete;
+  SdlDisplay& operator=(const SdlDisplay&) = delete;
+
+  /// 0 x 0 where there is no display at all.
+  Size size() override;
+  /// 800 x 600 opens the window, where it is not open yet; any other size closes it.
+  int change(Size size) override;
+  void present(const Surface& framebuffer, std::span<const Rect> changed) override;
+  void message(const char* title, const char* text) override;
+
+  /// Why `change` refused, in the words of the window system.
+  const std::string& failure() const { return failure_; }
+
+  // For the events.
+  void toggleFullScreen();
+  /// The window's size may have changed, and what was on it may be gone.
+  void rearrange();
+  /// The framebuffer pixel at a point of the window.
+  Point pictured(Point inWindow) const;
+
+ private:
+  bool startVideo();
+  bool openWindow();
+  void closeWindow();
+  void setIcon();
+
+  std::string icon_;
+  std::string failure_;
+  SDL_Window* window_ = nullptr;
+  std::unique_ptr<Scaler> scaler_;
+  Size windowSize_{};
+  bool videoStarted_ = false;
+  bool barsShown_ = false;
+  bool managed_ =
+      true;  // somebody answers a wish for full screen; else the window covers it by itself
+  bool full_ = true;
+  Size windowed_{};  // its size when it does not fill the desktop
+};
+
+}  // namespace platform

@@ -1,0 +1,149 @@
+#include "platform/sdl/sdl_events.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+#include "platform/display.h"
+#include "platform/sdl/sdl_display.h"
+
+namespace platform {
+
+namespace {
+
+// How far from the rim a pointer counts that has left the window, so that it scrolls nothing.
+constexpr int kRest = 16;
+
+bool keyOf(SDL_Keycode code, Key& key) {
+  switch (code) {
+    case SDLK_BACKSPACE:
+      key = Key::backspace;
+      return true;
+    case SDLK_RETURN:
+    case SDLK_KP_ENTER:
+      key = Key::enter;
+      return true;
+    case SDLK_ESCAPE:
+      key = Key::escape;
+      return true;
+    case SDLK_LEFT:
+      key = Key::left;
+      return true;
+    case SDLK_RIGHT:
+      key = Key::right;
+      return true;
+    case SDLK_HOME:
+      key = Key::home;
+      return true;
+    case SDLK_END:
+      key = Key::end;
+      return true;
+    case SDLK_DELETE:
+      key = Key::deleteForward;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool switchesFullScreen(const SDL_Keysym& sym) {
+  return sym.sym == SDLK_F11 || (sym.sym == SDLK_RETURN && (sym.mod & KMOD_ALT) != 0);
+}
+
+// A fast mouse moves many times between two looks; where it ended up is all that counts.
+bool moreMotionWaits() {
+  SDL_Event next;
+  return SDL_PeepEvents(&next, 1, SDL_PEEKEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) == 1 &&
+         next.type == SDL_MOUSEMOTION;
+}
+
+}  // namespace
+
+bool SdlEvents::translate(const SDL_Event& event, Event& into) {
+  into = {};
+  switch (event.type) {
+    case SDL_MOUSEMOTION:
+      last_ = display_.pictured({event.motion.x, event.motion.y});
+      if (moreMotionWaits()) return false;
+      into.kind = EventKind::pointer;
+      into.point = last_;
+      return true;
+    case SDL_MOUSEBUTTONDOWN:
+      if (held_ != 0) return false;
+      held_ = event.button.button;
+      into.kind = EventKind::down;
+      into.point = last_ = display_.pictured({event.button.x, event.button.y});
+      return true;
+    case SDL_MOUSEBUTTONUP:
+      if (held_ != event.button.button) return false;
+      held_ = 0;
+      into.kind = EventKind::up;
+      into.point = last_ = display_.pictured({event.button.x, event.button.y});
+      return true;
+    case SDL_MOUSEWHEEL:
+      into.kind = EventKind::wheel;
+      into.steps = event.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.wheel.y : event.wheel.y;
+      return into.steps != 0;
+    case SDL_TEXTINPUT:
+      into.kind = EventKind::text;
+      std::copy_n(event.text.text, into.text.size() - 1, into.text.begin());
+      return into.text[0] != '\0';
+    case SDL_KEYDOWN:
+      if (switchesFullScreen(event.key.keysym)) {
+        if (event.key.repeat != 0) return false;
+        display_.toggleFullScreen();
+        into.kind = EventKind::redraw;
+        return true;
+      }
+      into.kind = EventKind::key;
+      return keyOf(event.key.keysym.sym, into.key);
+    case SDL_WINDOWEVENT:
+      return translateWindow(event, into);
+    case SDL_QUIT:
+      into.kind = EventKind::quit;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool SdlEvents::translateWindow(const SDL_Event& event, Event& into) {
+  switch (event.window.event) {
+    case SDL_WINDOWEVENT_EXPOSED:
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+    case SDL_WINDOWEVENT_RESTORED:
+      display_.rearrange();
+      into.kind = EventKind::redraw;
+      return true;
+    case SDL_WINDOWEVENT_LEAVE:
+      into.kind = EventKind::pointer;
+      last_.x = std::clamp(last_.x, kRest, kScreenWidth - 1 - kRest);
+      last_.y = std::clamp(last_.y, kRest, kScreenHeight - 1 - kRest);
+      into.point = last_;
+      return held_ == 0;
+    default:
+      return false;
+  }
+}
+
+bool SdlEvents::next(Event& into, std::int64_t timeout) {
+  const Uint64 start = SDL_GetTicks64();
+  for (;;) {
+    int rest = -1;
+    if (timeout >= 0) {
+      const auto passed = static_cast<std::int64_t>(SDL_GetTicks64() - start);
+      rest = static_cast<int>(
+          std::clamp<std::int64_t>(timeout - passed, 0, std::numeric_limits<int>::max()));
+    }
+    SDL_Event event;
+    if ((rest < 0 ? SDL_WaitEvent(&event) : SDL_WaitEventTimeout(&event, rest)) == 0) {
+      if (rest < 0) SDL_Delay(10);  // the window system failed; it is asked again
+      return false;
+    }
+    if (translate(event, into)) return true;
+  }
+}
+
+}  // namespace platform

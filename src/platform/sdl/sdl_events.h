@@ -1,0 +1,54 @@
+// What the player does with the mouse, the keyboard and the window, as plain values for the desk.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "platform/desk.h"
+#include "platform/geometry.h"
+
+union SDL_Event;
+
+namespace platform {
+
+class SdlDisplay;
+
+enum class EventKind : std::uint8_t {
+  pointer,  // `point`: the pointer moved there
+  down,     // a mouse button went down at `point`
+  up,       // it went up at `point`
+  wheel,    // `steps` turns, away from the player counted positive
+  text,     // `text`: what was typed, UTF-8
+  key,      // `key`
+  redraw,   // what stood in the window is gone: present everything
+  quit,     // the window was closed, or the system asks the program to end
+};
+
+struct Event {
+  EventKind kind = EventKind::redraw;
+  Point point{};  // pixel of the framebuffer, 0..799 and 0..599
+  int steps = 0;
+  Key key = Key::enter;
+  std::array<char, 32> text{};  // ends with a zero byte
+};
+
+class SdlEvents {
+ public:
+  /// `display` must outlive the events. Its own keys (F11, Alt+Enter) are answered in here.
+  explicit SdlEvents(SdlDisplay& display) : display_(display) {}
+
+  /// Gives the next event. Waits for it up to `timeout` milliseconds, without limit when that is
+  /// negative; false when none came. A loop sleeps in here until its next timer is due, and then
+  /// takes what else has come with a timeout of 0.
+  bool next(Event& into, std::int64_t timeout);
+
+ private:
+  bool translate(const SDL_Event& event, Event& into);
+  bool translateWindow(const SDL_Event& event, Event& into);
+
+  SdlDisplay& display_;
+  int held_ = 0;  // the mouse button that is down: every button is as good as any other
+  Point last_{};  // where the pointer was last
+};
+
+}  // namespace platform

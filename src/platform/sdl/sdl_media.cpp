@@ -1,0 +1,181 @@
+#include "platform/sdl/sdl_media.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "platform/files.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int kRate = 44100;
+constexpr int kBuffer = 1024;     // frames: a cue begins within 25 ms
+constexpr int kMusicVolume = 64;  // of 128; louder, full chords clip
+constexpr int kFade = 10;         // milliseconds in which a cue that is cut off dies away
+
+// The themes are balanced for the first of these; the others are what a machine may have instead.
+constexpr const char* kSoundFonts[] = {
+    "/usr/share/sounds/sf2/TimGM6mb.sf2",
+    "/usr/share/sounds/sf2/default-GM.sf2",
+    "/usr/share/sounds/sf3/default-GM.sf3",
+    "/usr/share/soundfonts/default.sf2",
+};
+
+// A wrong file is taken without complaint and plays silence at full cost, so it is looked at
+// before.
+bool isSoundFont(const char* path) {
+  struct stat status {};
+  if (stat(path, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size < (1 << 20)) {
+    return false;
+  }
+  std::FILE* const file = std::fopen(path, "rb");
+  if (file == nullptr) return false;
+  char head[4] = {};
+  const bool read = std::fread(head, 1, sizeof head, file) == sizeof head;
+  std::fclose(file);
+  return read && std::string_view(head, sizeof head) == "RIFF";
+}
+
+// Keeps standard error closed to libraries that write whole pages there where a device is missing.
+class Hush {
+ public:
+  Hush() : kept_(dup(STDERR_FILENO)) {
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (kept_ >= 0 && nowhere >= 0) dup2(nowhere, STDERR_FILENO);
+    if (nowhere >= 0) close(nowhere);
+  }
+  ~Hush() {
+    if (kept_ < 0) return;
+    dup2(kept_, STDERR_FILENO);
+    close(kept_);
+  }
+  Hush(const Hush&) = delete;
+  Hush& operator=(const Hush&) = delete;
+
+ private:
+  int kept_;
+};
+
+// A device that plays, or silence for good: with a make-believe device the music would be worked
+// out and thrown away.
+bool openDevice() {
+  const Hush hush;
+  if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
+  if (Mix_OpenAudio(kRate, MIX_DEFAULT_FORMAT, 2, kBuffer) == 0) return true;
+  SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  return false;
+}
+
+std::string_view fileName(std::string_view path) {
+  const std::size_t separator = path.find_last_of("/\\");
+  return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+}  // namespace
+
+SdlMedia::SdlMedia(std::string programFolder, std::string soundFolder)
+    : programFolder_(std::move(programFolder)), soundFolder_(std::move(soundFolder)) {}
+
+SdlMedia::~SdlMedia() {
+  closeMusic();
+  if (!open_) return;
+  Mix_HaltChannel(-1);
+  for (const auto& [name, chunk] : cues_) {
+    if (chunk != nullptr) Mix_FreeChunk(chunk);
+  }
+  Mix_CloseAudio();
+  SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+void SdlMedia::open() {
+  if (asked_) return;
+  asked_ = true;
+  if (!openDevice()) {
+    std::fprintf(stderr, "vellmoran: no sound: %s\n", SDL_GetError());
+    return;
+  }
+  open_ = true;
+  Mix_AllocateChannels(2);
+  Mix_VolumeMusic(kMusicVolume);
+  for (const char* font : kSoundFonts) {
+    if (!isSoundFont(font)) continue;
+    Mix_SetSoundFonts(font);
+    fontFound_ = true;
+    break;
+  }
+  if (!fontFound_) std::fprintf(stderr, "vellmoran: no music: there is no soundfont\n");
+  for (const char* name : {"sound1.wav", "sound2.wav", "sound3.wav", "sound4.wav"}) cue(name);
+}
+
+std::string SdlMedia::find(std::string_view path) const {
+  const std::string name(fileName(path));
+  if (name.empty()) return "";
+  for (const std::string* folder : {&programFolder_, &soundFolder_}) {
+    const std::string candidate = *folder + "/" + name;
+    if (fileExists(candidate)) return candidate;
+  }
+  return "";
+}
+
+Mix_Chunk* SdlMedia::cue(std::string_view path) {
+  const std::string_view name = fileName(path);
+  if (const auto known = cues_.find(name); known != cues_.end()) return known->second;
+  const std::string file = find(name);
+  Mix_Chunk* const chunk = file.empty() ? nullptr : Mix_LoadWAV(file.c_str());
+  cues_.emplace(name, chunk);
+  return chunk;
+}
+
+bool SdlMedia::sndPlaySoundA(std::string_view path, int) {
+  open();
+  if (!open_) return false;
+  Mix_Chunk* const chunk = cue(path);
+  // The cue that sounds dies away on its own channel while the new one begins on the other: cut off
+  // hard, it would tick.
+  if (Mix_Playing(channel_) != 0) Mix_FadeOutChannel(channel_, kFade);
+  if (chunk == nullptr) return false;
+  channel_ = 1 - channel_;
+  return Mix_PlayChannel(channel_, chunk, 0) >= 0;
+}
+
+int SdlMedia::mciSendStringA(std::string_view command) {
+  constexpr std::string_view kOpen = "Open \"";
+  constexpr std::string_view kSequencer = "\" type sequencer alias canyon";
+  if (command == "close canyon") {
+    closeMusic();
+    return 0;
+  }
+  if (command == "play canyon") {
+    return music_ != nullptr && Mix_PlayMusic(music_, 1) == 0 ? 0 : 1;
+  }
+  if (command.starts_with(kOpen) && command.ends_with(kSequencer) &&
+      command.size() > kOpen.size() + kSequencer.size()) {
+    command.remove_prefix(kOpen.size());
+    command.remove_suffix(kSequencer.size());
+    return openMusic(command) ? 0 : 1;
+  }
+  return 1;
+}
+
+bool SdlMedia::openMusic(std::string_view path) {
+  open();
+  if (!open_ || !fontFound_ || music_ != nullptr) return false;
+  const std::string file = find(path);
+  if (!file.empty()) music_ = Mix_LoadMUS(file.c_str());
+  return music_ != nullptr;
+}
+
+void SdlMedia::closeMusic() {
+  if (music_ == nullptr) return;
+  Mix_HaltMusic();
+  Mix_FreeMusic(music_);
+  music_ = nullptr;
+}
+
+}  // namespace platform

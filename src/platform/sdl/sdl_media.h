@@ -1,0 +1,48 @@
+// Music and cues through the machine's audio device. Whatever is missing, a device, a soundfont, a
+// theme or a cue, is silence.
+#pragma once
+
+#include <array>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "platform/media.h"
+
+struct Mix_Chunk;
+typedef struct _Mix_Music Mix_Music;  // NOLINT: the name is the library's
+
+namespace platform {
+
+class SdlMedia : public Media {
+ public:
+  /// A theme or cue is looked for by its bare file name: in `programFolder`, then in `soundFolder`.
+  SdlMedia(std::string programFolder, std::string soundFolder);
+  ~SdlMedia() override;
+  SdlMedia(const SdlMedia&) = delete;
+  SdlMedia& operator=(const SdlMedia&) = delete;
+
+  /// Opens the device and loads the cues `sound1.wav` to `sound4.wav`. To be called once the first
+  /// picture stands, which need not wait for it; a first sound opens by itself.
+  void open();
+
+  bool sndPlaySoundA(std::string_view path, int flags) override;
+  int mciSendStringA(std::string_view command) override;
+
+ private:
+  std::string find(std::string_view path) const;
+  Mix_Chunk* cue(std::string_view path);
+  bool openMusic(std::string_view path);
+  void closeMusic();
+
+  std::string programFolder_;
+  std::string soundFolder_;
+  std::map<std::string, Mix_Chunk*, std::less<>> cues_;  // by file name; null for one that failed
+  Mix_Music* music_ = nullptr;
+  int channel_ = 0;
+  bool asked_ = false;  // the device has been asked for
+  bool open_ = false;
+  bool fontFound_ = false;
+};
+
+}  // namespace platform
