@@ -1,0 +1,141 @@
+#include "map/views.h"
+
+#include <array>
+
+#include "core/vocabulary.h"
+#include "sim/coverage.h"
+#include "sim/residences.h"
+
+namespace map {
+
+namespace {
+
+using core::GameState;
+
+// One more than the board: the last line may carry marks and is never drawn.
+constexpr int kLastScanned = core::kLastCell + 1;
+
+constexpr std::array<std::string_view, 6> kNames{"Normal view",   "Market access", "School access",
+                                                 "Tavern access", "Church access", "Doctor access"};
+
+/// The cells whose tall pictures can reach over a cell.
+constexpr std::array<core::CellOffset, 6> kInFront{
+    {{0, 1}, {1, 0}, {1, 1}, {1, 2}, {2, 1}, {2, 2}}};
+
+/// The 2x2 building of service k, 1..4.
+const core::BlockDesign& blockOfService(int k) {
+  return core::blockOfTool(k + 1);
+}
+
+void setFlat(GameState& game, int x, int y, int image) {
+  game.tileImage(x, y) = static_cast<std::int16_t>(image);
+  game.cellDirty(x, y) = 1;
+  game.cellTall(x, y) = 0;
+}
+
+void setTall(GameState& game, int x, int y, int image) {
+  game.tileImage(x, y) = static_cast<std::int16_t>(image);
+  game.cellTall(x, y) = 1;
+}
+
+/// A field is bare for the first third of the month, then grows, then ripens; of the tests that
+/// hold the last decides.
+int farmImage(const GameState& game) {
+  int image = core::kFarmImage1;
+  if (game.farmAnimationOn == 1) {
+    const int tick = game.tickOfMonth.whole();
+    const int third = game.monthLength.whole() / 3;
+    if (tick > third) image = core::kFarmImage2;
+    if (tick >= 2 * third) image = core::kFarmImage3;
+  }
+  return image;
+}
+
+void restoreBuildings(GameState& game) {
+  const int field = farmImage(game);
+  for (int y = 0; y <= kLastScanned; ++y) {
+    for (int x = 0; x <= kLastScanned; ++x) {
+      const int code = game.tileCode(x, y);
+      const int service = core::serviceOfCode(code);
+      if (service == core::kDoctor) {
+        setTall(game, x, y, core::kDoctorImage);
+      } else if (service != 0) {
+        const core::BlockDesign& block = blockOfService(service);
+        const auto piece = static_cast<std::size_t>(code - block.firstCode);
+        if (block.tall[piece] == 1) {
+          setTall(game, x, y, block.images[piece]);
+        } else {
+          setFlat(game, x, y, block.images[piece]);
+        }
+      } else if (core::isFarmCode(code)) {
+        setFlat(game, x, y, field);
+      }
+    }
+  }
+}
+
+/// Gives the building anchored at (x, y) its own pictures again and marks its cells.
+void showBlock(GameState& game, int x, int y, int service) {
+  const core::BlockDesign& block = blockOfService(service);
+  for (std::size_t piece = 0; piece < core::kBlock.size(); ++piece) {
+    const int cellX = x + core::kBlock[piece].x;
+    const int cellY = y + core::kBlock[piece].y;
+    game.tileImage(cellX, cellY) = static_cast<std::int16_t>(block.images[piece]);
+    game.cellDirty(cellX, cellY) = 1;
+  }
+}
+
+bool isUnderTallPicture(const GameState& game, int x, int y) {
+  for (const core::CellOffset& d : kInFront) {
+    if (game.cellTall(x + d.x, y + d.y) == 1) return true;
+  }
+  return false;
+}
+
+// The scan flattens buildings as it goes. The cells that ground is compared with all come later in
+// it, so a building about to be flattened still counts, and its old top is cleared off the ground
+// behind.
+void colourByAccess(GameState& game, int view) {
+  sim::markObjectCells(game);
+  for (int y = 0; y <= kLastScanned; ++y) {
+    for (int x = 0; x <= kLastScanned; ++x) {
+      const int code = game.tileCode(x, y);
+      if (code == core::kEmptyCode || code == core::kRoadCode) {
+        if (isUnderTallPicture(game, x, y)) game.cellDirty(x, y) = 1;
+      } else if (core::serviceOfCode(code) == view) {
+        if (code == core::kDoctorCode) {
+          setTall(game, x, y, core::kDoctorImage);
+          game.cellDirty(x, y) = 1;
+        } else if (code == blockOfService(view).firstCode) {
+          showBlock(game, x, y, view);
+        }
+      } else if (core::isResidenceCode(code)) {
+        const bool served = game.cellService[view](x, y) == 1;
+        setFlat(game, x, y, served ? core::kServedImage : core::kUnservedImage);
+      } else {
+        setFlat(game, x, y, core::kOtherImage);
+      }
+    }
+  }
+}
+
+}  // namespace
+
+void applyOverlayView(Stage& stage) {
+  GameState& game = stage.game;
+  if (game.overlayView == 0) {
+    sim::evolveResidences(game);
+    restoreBuildings(game);
+  } else {
+    colourByAccess(game, game.overlayView.whole());
+  }
+  DrawTiles32(stage, kFlatCells);
+  DrawTiles2(stage, kTallCells);
+  unmarkCells(game, 0, kLastScanned);
+}
+
+std::string_view viewName(int view) {
+  return kNames[static_cast<std::size_t>(view)];
+}
+
+}  // namespace map

@@ -1,0 +1,125 @@
+#include "map/walkers.h"
+
+#include <cmath>
+
+#include "core/new_game.h"
+#include "core/vocabulary.h"
+#include "map/walker_designs.h"
+
+namespace map {
+
+namespace {
+
+using core::GameState;
+using core::kWalkers;
+
+constexpr int kFewestPeople = 20;
+constexpr int kBusyBlits = 100;  // more than this in the current 200 ms: the screen is busy
+constexpr int kMostWalkers = 8;  // one tick may add two
+constexpr int kFrames = 4;
+constexpr int kCellPixels = 32;  // pixels across that make one cell
+constexpr int kMostCells = 30;
+
+/// The roads of one axis: the picture, the step along it, and its first direction.
+struct Lane {
+  int image;
+  core::CellOffset along;
+  int firstDirection;
+};
+constexpr Lane kLaneAlongY{core::kRoadAlongY, {0, 1}, 0};
+constexpr Lane kLaneAlongX{core::kRoadAlongX, {1, 0}, 2};
+
+/// Straight road with straight road on both sides: a walker gets at least one cell to walk.
+bool isLaneCell(const GameState& game, const Lane& lane, int x, int y) {
+  return game.tileImage(x, y) == lane.image &&
+         game.tileImage(x - lane.along.x, y - lane.along.y) == lane.image &&
+         game.tileImage(x + lane.along.x, y + lane.along.y) == lane.image;
+}
+
+int countLaneCells(const GameState& game, const Lane& lane) {
+  int count = 0;
+  for (int y = 1; y < core::kLastCell; ++y) {
+    for (int x = 1; x < core::kLastCell; ++x) count += isLaneCell(game, lane, x, y);
+  }
+  return count;
+}
+
+/// Rolls for each lane cell in turn until one is taken; often none is, and no walker starts.
+bool takeLaneCell(GameState& game, const Lane& lane, int count, platform::Random& random) {
+  for (int y = 1; y < core::kLastCell; ++y) {
+    for (int x = 1; x < core::kLastCell; ++x) {
+      if (!isLaneCell(game, lane, x, y)) continue;
+      if (std::floor(count * random.uniform() + 1) != 1) continue;
+      game.spawnX = x;
+      game.spawnY = y;
+      return true;
+    }
+  }
+  return false;
+}
+
+int lowestFreeSlot(const GameState& game) {
+  int slot = 1;
+  while (game.walkerActive[slot] != 0) ++slot;
+  return slot;
+}
+
+bool spawnOn(GameState& game, const Lane& lane, int count, platform::Random& random) {
+  if (!takeLaneCell(game, lane, count, random)) return false;
+  const bool first = std::floor(2 * random.uniform() + 1) == 1;
+  const int slot = lowestFreeSlot(game);
+  game.freeWalkerSlot = slot;
+  game.walkerX[slot] = game.spawnX;
+  game.walkerY[slot] = game.spawnY;
+  game.walkerDir[slot] = first ? lane.firstDirection : lane.firstDirection + 1;
+  game.walkerActive[slot] = 1;
+  return true;
+}
+
+// The look ahead comes before the move, at every step: a walker ends as it enters the last straight
+// cell of its road, not at that cell's far end.
+void step(GameState& game, int slot) {
+  const WalkerDesign& design = walkerDesign(game.walkerDir[slot]);
+  const int aheadX = game.walkerX[slot] + game.walkerCellDX[slot] + design.cellStep.x;
+  const int aheadY = game.walkerY[slot] + game.walkerCellDY[slot] + design.cellStep.y;
+  if (game.tileImage(aheadX, aheadY) != design.road) game.walkerDone[slot] = 1;
+
+  if (++game.walkerFrame[slot] == kFrames) game.walkerFrame[slot] = 0;
+  game.walkerPxX[slot] += design.pixelStep.x;
+  game.walkerPxY[slot] += design.pixelStep.y;
+
+  const int px = game.walkerPxX[slot];
+  if (px % kCellPixels == 0 && px / kCellPixels >= -kMostCells && px / kCellPixels <= kMostCells) {
+    game.walkerCellDX[slot] += design.cellStep.x;
+    game.walkerCellDY[slot] += design.cellStep.y;
+  }
+}
+
+}  // namespace
+
+bool spawnWalkers(GameState& game, platform::Random& random) {
+  if (game.population < kFewestPeople) return false;
+  if (game.blitCount > kBusyBlits) return false;
+  game.activeWalkers = 0;
+  for (int slot = 1; slot <= kWalkers; ++slot) game.activeWalkers += game.walkerActive[slot] == 1;
+  if (game.activeWalkers > kMostWalkers) return false;
+
+  game.laneCount = countLaneCells(game, kLaneAlongY);
+  game.laneCount2 = countLaneCells(game, kLaneAlongX);
+  const bool alongY = spawnOn(game, kLaneAlongY, game.laneCount, random);
+  const bool alongX = spawnOn(game, kLaneAlongX, game.laneCount2, random);
+  return alongY || alongX;
+}
+
+void stepWalkers(Stage& stage) {
+  GameState& game = stage.game;
+  for (int slot = 1; slot <= kWalkers; ++slot) {
+    if (game.walkerActive[slot] == 1) step(game, slot);
+  }
+  DrawTiles4(stage, kTallCells);
+  for (int slot = 1; slot <= kWalkers; ++slot) {
+    if (game.walkerDone[slot] == 1) core::clearWalker(game, slot);
+  }
+}
+
+}  // namespace map
