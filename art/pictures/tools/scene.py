@@ -1,0 +1,91 @@
+"""Render the large scenes: run POV-Ray, draw outlines, average, grade.
+
+DRAFT=1 in the environment renders with single samples and few sky lights."""
+import subprocess, sys, time
+from land import *
+
+POV = os.path.join(HERE, '../pov')
+OUT = os.path.abspath(os.environ.get('SCENES') or os.path.join(HERE, '../../out/scenes'))
+DRAFT = bool(os.environ.get('DRAFT'))
+
+
+def read_ppm(name):
+    with open(name, 'rb') as f:
+        data = f.read()
+    tok, pos = [], 0
+    while len(tok) < 4:
+        end = pos
+        while data[end:end + 1] not in b' \n\t\r':
+            end += 1
+        if data[pos:pos + 1] == b'#':
+            pos = data.index(b'\n', pos) + 1
+            continue
+        if end > pos:
+            tok.append(data[pos:end])
+        pos = end + 1
+    w, h, m = int(tok[1]), int(tok[2]), int(tok[3])
+    return np.frombuffer(data, '>u2' if m > 255 else 'u1', w * h * 3, pos).reshape(h, w, 3).astype(np.float32) / m
+
+
+def povray(scene, npass, w, h, ss, declare=()):
+    os.makedirs(OUT, exist_ok=True)
+    out = '%s/%s_%d.ppm' % (OUT, scene, npass)
+    cmd = ['nice', '-n', '10', 'povray', '+I' + scene + '.pov', '+O' + out, '+W%d' % (w * ss), '+H%d' % (h * ss), '+Linc', '+L' + OUT,
+           '+FP16', '-D', '-A', '-J', 'File_Gamma=1.0', '+WT1', 'Declare=Pass=%d' % npass,
+           'Declare=CW=%d' % w, 'Declare=CH=%d' % h] + ['Declare=' + d for d in declare]
+    r = subprocess.run(cmd, cwd=POV, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+    if r.returncode:
+        print(r.stdout[r.stdout.find("[Parsing"):])
+        sys.exit('povray failed: ' + scene)
+    return read_ppm(out)
+
+
+def open_light(dome):
+    """Light of white ground in the open; painted ground is divided by it."""
+    return povray('daylight', 0, 2, 2, 1, ['DomeN=%d' % dome])[0, 0] * 2
+
+
+def outline(depth, ss, thin=.45, jump=.07):
+    r = max(1, int(round(ss * thin)))
+    far = np.zeros_like(depth)
+    for dy, dx in ((0, 1), (0, -1), (1, 0), (-1, 0)):
+        for k in {1, r}:
+            far = np.maximum(far, np.roll(depth, (dy * k, dx * k), (0, 1)) - depth)
+    return np.clip((far - jump) / jump, 0, 1)
+
+
+def tufts(x0, y0, w, h):
+    """Fine blades for grass, -1, 0 or 1, by the place on the surface.  They repeat
+    with the step of the water pictures, so that grassy banks agree there."""
+    r = np.random.RandomState(7)
+    n = r.randn(2048, 122)
+    n = n + .9 * np.roll(n, 1, 0) + .35 * np.roll(n, 1, 1)
+    n = np.where(n > 1.25, 1, np.where(n < -1.25, -1, 0))
+    y, x = np.mgrid[y0:y0 + h, x0:x0 + w]
+    return n[(y + 61 * (x // 122)) % 2048, x % 122]
+
+
+def shot(scene, w, h, ox, oy, ss=4, dome=16, sat=1.06, contrast=1.10, exposure=1.0):
+    """A finished picture (sRGB floats) on black, and its coverage by objects."""
+    if DRAFT:
+        ss, dome = 2, 5
+    t = time.time()
+    ext = ['OX=%g' % ox, 'OY=%g' % oy, 'DomeN=%d' % dome]
+    light = open_light(dome)
+    b = povray(scene, 0, w, h, ss, ext) * 2
+    aux = povray(scene, 1, w, h, ss, ext)
+    obj = (aux[..., 1] > .5).astype(np.float32)
+    line = outline(aux[..., 0] * 60, ss) * obj
+    b = b * (1 - line[..., None] * .5)
+    cov = box_down(obj, ss)[..., None]
+    col = box_down(b * obj[..., None], ss) / np.maximum(cov, 1e-6)
+    gnd = box_down(b * (1 - obj[..., None]), ss) / np.maximum(1 - cov, 1e-6) / light
+    col = grade(col, exposure, sat, contrast)
+    col = unsharp(col, cov[..., 0] > .02, .45, .7)
+    gnd = np.where(gnd > .8, .8 + .2 * (1 - np.exp(-(gnd - .8) / .2)), gnd)
+    gnd = to_srgb(gnd)
+    green = np.clip((gnd[..., 1] - gnd[..., [0, 2]].max(-1) - .04) / .06, 0, 1) * np.clip(gnd[..., 1] * 6 - .6, 0, 1)
+    gnd = gnd * (1 + .055 * green * tufts(992 - int(ox), 32 - int(oy), w, h))[..., None]
+    img = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(gnd))
+    print('%s %dx%d: %.0f s' % (scene, w, h, time.time() - t), flush=True)
+    return img, cov[..., 0]
