@@ -32,6 +32,7 @@ class Text {
   operator std::string_view() const { return view(); }  // NOLINT
 
   friend bool operator==(const Text& a, std::string_view b) { return a.view() == b; }
+  friend bool operator==(const Text& a, const char* b) { return a.view() == b; }
   friend bool operator==(const Text& a, const Text& b) { return a.view() == b.view(); }
 
  private:
