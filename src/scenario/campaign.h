@@ -1,0 +1,21 @@
+// The end of a campaign mission: judged at the month roll that opens its judgement year.
+#pragma once
+
+#include <string>
+
+#include "play/scene.h"
+
+namespace scenario {
+
+/// Whether everything that mission 1..10 asks for holds now.
+bool missionGoalMet(const core::GameState& game, int mission);
+
+/// Judges the running mission where its time has come. A mission won raises "config.dat", hands the city
+/// over in a file, and goes back to the menu within a second; a mission lost goes back as well.
+/// `folder` is the program's folder. A file that fails is told in a message box.
+void checkMissionEnd(play::Scene& scene, const std::string& folder);
+
+/// Shows the panel with the outcome of a mission or a level.
+void showOutcome(play::Scene& scene, const char* text);
+
+}  // namespace scenario

@@ -1,0 +1,38 @@
+// Open play: a game without goals, on land of the player's choice.
+#pragma once
+
+#include <array>
+
+#include "core/game_state.h"
+
+namespace scenario {
+
+/// One box of the open play panel: the choice it stands for, what it sets, and how hard it makes it.
+enum class Choice { mapSize, fertility, money };
+struct ChoiceBox {
+  Choice choice;
+  double value;
+  double factor;
+};
+
+// Boxes 1 to 9, in the order of their names.
+inline constexpr std::array<ChoiceBox, 9> kChoiceBoxes{{
+    {Choice::mapSize, 22, 1},
+    {Choice::mapSize, 28, 0.65},
+    {Choice::mapSize, 16, 1.75},
+    {Choice::fertility, 1.2, 0.8},
+    {Choice::fertility, 1, 1},
+    {Choice::fertility, 0.8, 1.35},
+    {Choice::money, 1, 1.2},
+    {Choice::money, 2, 1},
+    {Choice::money, 3, 0.85},
+}};
+
+/// What every visit to the menu begins with. The side of 24 fits none of the boxes: it is what a player
+/// gets who never touched the size.
+void setOpenPlayDefaults(core::ProgramValues& values);
+
+/// Takes over the choice of box n, 0..8, and computes the difficulty anew.
+void takeChoice(core::ProgramValues& values, int n);
+
+}  // namespace scenario
