@@ -122,14 +122,17 @@ std::string someNumber() {
       "1.0000000000000001",
   };
   if (chance(60)) return kForms[draw(std::size(kForms))];
-  if (chance(50)) return std::to_string(draw(120));
+  if (chance(50)) return std::string(core::NumberText(static_cast<double>(draw(120))).view());
   std::string number;
   if (chance(30)) number += '-';
   for (std::size_t n = draw(chance(5) ? 2000 : 25); n > 0; --n) {
     number += static_cast<char>('0' + draw(10));
     if (chance(5)) number += '.';
   }
-  if (chance(40)) number.append("E").append(std::to_string(static_cast<int>(draw(800)) - 400));
+  if (chance(40)) {
+    number += 'E';
+    number += core::NumberText(static_cast<double>(draw(800)) - 400).view();
+  }
   return number;
 }
 
@@ -171,7 +174,7 @@ void mutate(std::string& text, const std::string& other) {
         text.replace(end, size, kEnds[draw(std::size(kEnds))]);
       }
   }
-  if (text.empty()) text = ",";
+  if (text.empty()) text += ',';
 }
 
 bool isShowable(std::string_view message) {
