@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t kPixel = 4;
 
-std::uint8_t blended(int a, int b, int share) {
-  return static_cast<std::uint8_t>((a * (256 - share) + b * share + 128) >> 8);
+std::uint32_t blended(std::uint32_t a, std::uint32_t b, std::uint32_t share) {
+  return (a * (256 - share) + b * share + 128) >> 8;
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ Scaler::Scaler(Size picture, Size display) : picture_(picture) {
   columns_ = taps(picture.width, place_.width);
   rows_ = taps(picture.height, place_.height);
   for (auto& row : stretched_) {
-    row.resize(static_cast<std::size_t>(place_.width) * kPixel);
+    row.resize(static_cast<std::size_t>(place_.width));
   }
 }
 
@@ -82,27 +82,32 @@ Rect Scaler::covered(const Rect& picturePart) const {
 
 // Row `row` of the picture at the display's width, in the display's order of bytes. The two rows
 // that were made last are kept: rows of the display that lie together share them.
-const std::uint8_t* Scaler::stretchedRow(const Surface& picture, int row, const Rect& part,
-                                         const PixelMemory& display) {
+const std::uint32_t* Scaler::stretchedRow(const Surface& picture, int row, const Rect& part,
+                                          const PixelMemory& display) {
   const int slot = row & 1;
-  std::uint8_t* const to = stretched_[slot].data();
+  std::uint32_t* const to = stretched_[slot].data();
   if (stretchedRows_[slot] == row) return to;
   stretchedRows_[slot] = row;
   const std::uint8_t* const from = picture.row(row);
-  const int begin = part.left - place_.left;
-  for (int x = begin; x < begin + part.width; ++x) {
-    const Tap tap = columns_[static_cast<std::size_t>(x)];
-    const std::uint8_t* const a = from + static_cast<std::size_t>(tap.first) * 3;
-    std::uint8_t* const pixel = to + static_cast<std::size_t>(x) * kPixel;
-    if (tap.share == 0) {
-      pixel[display.red] = a[0];
-      pixel[display.green] = a[1];
-      pixel[display.blue] = a[2];
-    } else {
-      pixel[display.red] = blended(a[0], a[3], tap.share);
-      pixel[display.green] = blended(a[1], a[4], tap.share);
-      pixel[display.blue] = blended(a[2], a[5], tap.share);
+  const int red = display.red, green = display.green, blue = display.blue;
+  const auto begin = static_cast<std::size_t>(part.left - place_.left);
+  const auto end = begin + static_cast<std::size_t>(part.width);
+  if (place_.width == picture_.width) {
+    for (std::size_t x = begin; x < end; ++x) {
+      const std::uint8_t* const a = from + x * 3;
+      to[x] =
+          std::uint32_t{a[0]} << red | std::uint32_t{a[1]} << green | std::uint32_t{a[2]} << blue;
     }
+    return to;
+  }
+  for (std::size_t x = begin; x < end; ++x) {
+    const Tap tap = columns_[x];
+    const std::uint8_t* const a = from + static_cast<std::size_t>(tap.first) * 3;
+    // The last pixel of a row has none behind it, and no share in it.
+    const std::uint8_t* const b = tap.share == 0 ? a : a + 3;
+    const auto share = static_cast<std::uint32_t>(tap.share);
+    to[x] = blended(a[0], b[0], share) << red | blended(a[1], b[1], share) << green |
+            blended(a[2], b[2], share) << blue;
   }
   return to;
 }
@@ -111,19 +116,21 @@ void Scaler::scale(const Surface& picture, const Rect& wanted, const PixelMemory
   const Rect part = intersection(wanted, place_);
   if (part.empty()) return;
   stretchedRows_[0] = stretchedRows_[1] = -1;
-  const std::size_t offset = static_cast<std::size_t>(part.left - place_.left) * kPixel;
+  const auto offset = static_cast<std::size_t>(part.left - place_.left);
   const std::size_t bytes = static_cast<std::size_t>(part.width) * kPixel;
   for (int y = part.top; y < part.bottom(); ++y) {
     const Tap tap = rows_[static_cast<std::size_t>(y - place_.top)];
     std::uint8_t* __restrict const to = display.pixels +
                                         display.stride * static_cast<std::size_t>(y) +
                                         static_cast<std::size_t>(part.left) * kPixel;
-    const std::uint8_t* const a = stretchedRow(picture, tap.first, part, display) + offset;
+    const auto* const a = reinterpret_cast<const std::uint8_t*>(
+        stretchedRow(picture, tap.first, part, display) + offset);
     if (tap.share == 0) {
       std::memcpy(to, a, bytes);
       continue;
     }
-    const std::uint8_t* const b = stretchedRow(picture, tap.first + 1, part, display) + offset;
+    const auto* const b = reinterpret_cast<const std::uint8_t*>(
+        stretchedRow(picture, tap.first + 1, part, display) + offset);
     const auto share = static_cast<std::uint16_t>(tap.share);
     const auto rest = static_cast<std::uint16_t>(256 - tap.share);
     for (std::size_t i = 0; i < bytes; ++i) {

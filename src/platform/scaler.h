@@ -14,13 +14,12 @@
 
 namespace platform {
 
-/// Memory of 32-bit pixels, as displays have it: where the red, green and blue bytes of a pixel
-/// lie.
+/// Memory of 32-bit pixels, as displays have it: by how many bits each colour is shifted.
 struct PixelMemory {
   std::uint8_t* pixels = nullptr;
   std::size_t stride = 0;  // bytes from one row to the next
-  int red = 2;
-  int green = 1;
+  int red = 16;
+  int green = 8;
   int blue = 0;
 };
 
@@ -48,15 +47,15 @@ class Scaler {
     int share = 0;
   };
   static std::vector<Tap> taps(int from, int to);
-  const std::uint8_t* stretchedRow(const Surface& picture, int row, const Rect& part,
-                                   const PixelMemory& display);
+  const std::uint32_t* stretchedRow(const Surface& picture, int row, const Rect& part,
+                                    const PixelMemory& display);
 
   Size picture_;
   Rect place_{};
   bool whole_ = false;
   std::vector<Tap> columns_;
   std::vector<Tap> rows_;
-  std::vector<std::uint8_t> stretched_[2];  // rows of the picture at the display's width
+  std::vector<std::uint32_t> stretched_[2];  // rows of the picture at the display's width
   int stretchedRows_[2] = {-1, -1};
 };
 

@@ -18,16 +18,6 @@ namespace {
 constexpr const char* kTitle = "Vellmoran";
 constexpr Size kPicture{kScreenWidth, kScreenHeight};
 
-// Which byte of a pixel holds a colour, told by its mask.
-int byteOf(Uint32 mask) {
-  int byte = 0;
-  while (byte < 3 && (mask >> (8 * byte)) != 0xFF) ++byte;
-#if SDL_BYTEORDER == SDL_BIG_ENDIAN
-  byte = 3 - byte;
-#endif
-  return byte;
-}
-
 bool isByte(Uint32 mask) {
   return mask == 0xFFu || mask == 0xFF00u || mask == 0xFF0000u || mask == 0xFF000000u;
 }
@@ -198,8 +188,8 @@ void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> chang
                                                                       SDL_PIXELFORMAT_XRGB8888);
   if (target == nullptr) return;
   const PixelMemory memory{static_cast<std::uint8_t*>(target->pixels),
-                           static_cast<std::size_t>(target->pitch), byteOf(target->format->Rmask),
-                           byteOf(target->format->Gmask), byteOf(target->format->Bmask)};
+                           static_cast<std::size_t>(target->pitch), target->format->Rshift,
+                           target->format->Gshift, target->format->Bshift};
   if (SDL_MUSTLOCK(target)) SDL_LockSurface(target);
   for (const Rect& rect : changed) {
     const Rect part = scaler_->covered(rect);
