@@ -1,0 +1,36 @@
+#include "shell/game_screen.h"
+
+#include "shell/opening.h"
+#include "shell/program.h"
+
+namespace shell {
+
+GameScreen::GameScreen(Program& program)
+    : Screen(core::gameControls(), nullptr, core::game_timer::kTimers,
+             program.services().assets.images, program.services().clock),
+      program_(program),
+      game_(std::make_unique<core::GameState>()),
+      stage_{*game_, program.values(), program.services().assets.pictures, program.canvas()},
+      scene_{*game_, program.values(), form(),           timers(),
+             stage_, program.desk(),   program.speaker()} {
+  form()[play::ui::picScroll].canvas = &stage_.canvas;
+  stage_.canvas.clear();
+  platform::ListContent& music = *form()[play::ui::Combo1].list;
+  for (const char* entry : sound::kMusicChoices) music.items.emplace_back(entry);
+}
+
+bool GameScreen::load() {
+  return openGameScreen(*this);
+}
+
+const std::string& GameScreen::folder() const {
+  return program_.services().programFolder;
+}
+platform::Random& GameScreen::random() {
+  return program_.services().random;
+}
+platform::Random& GameScreen::walkerRandom() {
+  return program_.services().walkerRandom;
+}
+
+}  // namespace shell

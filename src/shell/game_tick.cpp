@@ -1,0 +1,155 @@
+#include "shell/game_tick.h"
+
+#include <cmath>
+
+#include "core/goals.h"
+#include "core/number_text.h"
+#include "play/press.h"
+#include "play/status_report.h"
+#include "scenario/campaign.h"
+#include "scenario/missions.h"
+#include "shell/saved_games.h"
+#include "sim/coverage.h"
+#include "sim/disasters.h"
+#include "sim/month_tick.h"
+#include "sim/residences.h"
+
+namespace shell {
+
+namespace {
+
+namespace ui = play::ui;
+namespace timer = play::timer;
+using play::Scene;
+
+void testMilestones(Scene& scene) {
+  for (int n = 0; n < sim::kMilestones; ++n) {
+    if (!sim::reachMilestone(scene.game, n)) continue;
+    const sim::Milestone& milestone = sim::milestone(n);
+    scene.form.show(ui::Command1 + milestone.paletteIndex);
+    scene.text(ui::bilgilabel).assign(milestone.notice);
+    play::showNotice(scene);
+  }
+}
+
+void stepFamine(Scene& scene) {
+  core::GameState& game = scene.game;
+  const sim::FamineStep step = sim::stepFamine(game);
+  if (step.banner) play::say(scene, "Famine started,people leave your city!");
+  if (!step.rebuild) return;
+  sim::rebuildCoverage(game);
+  sim::rebuildCapacity(game);
+  sim::evolveResidences(game);
+  if (game.overlayView != 0) return;
+  play::redraw(scene);
+  map::unmarkCells(game, 0, core::kLastCell);
+}
+
+void startEarthquake(Scene& scene) {
+  sim::beginEarthquake(scene.game);
+  scene.timers.enable(timer::Timer12);
+  play::say(scene, "EARTHQUAKE!!!");
+}
+
+void commitTheft(Scene& scene) {
+  core::setCaption(scene.text(ui::bilgilabel), "Theft! ", sim::steal(scene.game),
+                   " golds are stolen from your treasury.");
+  play::showNotice(scene);
+}
+
+void rollMonth(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  core::GameState& game = scene.game;
+  core::ProgramValues& values = scene.values;
+  sim::beginMonth(game, values);
+  writeDate(scene);
+  sim::harvest(game, values);
+  if (const char* news = sim::kingsAid(game, values)) play::say(scene, news);
+  sim::consume(game);
+  if (sim::foodIsLow(game)) play::say(scene, "Your food supply is low");
+  stepFamine(scene);
+  if (sim::earthquakeDue(game, values)) startEarthquake(scene);
+  if (sim::theftDue(game, values)) commitTheft(scene);
+  if (values.gMission != core::kOpenPlay) scenario::checkMissionEnd(scene, screen.folder());
+}
+
+void reportEarthquake(Scene& scene) {
+  core::GameState& game = scene.game;
+  // A plain difference: people who arrived during the shake count against the dead.
+  core::setCaption(scene.text(ui::bilgilabel),
+                   "Disaster!A terrible earthquake hit your settlement,many buildings are "
+                   "collapsed and ",
+                   game.populationBeforeQuake - game.population, " people died.");
+  play::showNotice(scene);
+  game.quakeReportPending = 0;
+}
+
+void setCaptionIfChanged(platform::Text& text, std::string_view before, double number) {
+  platform::Text wanted;
+  core::setCaption(wanted, before, number);
+  if (!(text == wanted)) text = wanted;
+}
+
+}  // namespace
+
+void gameTick(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  core::GameState& game = scene.game;
+  core::ProgramValues& values = scene.values;
+  sim::wrapHistory(game);
+  core::setCaption(scene.text(ui::pop1), "Population:", game.population);
+  if (values.gMission != core::kDemonstration) testMilestones(scene);
+  sim::movePopulation(game);
+  if (game.farmAnimationOn == 1 && sim::growFarms(game) && game.overlayView == 0) {
+    play::redraw(scene);
+  }
+  if (game.tickOfMonth >= game.monthLength) rollMonth(screen);
+  sim::moveMoney(game);
+  sim::writeHistory(game, values);
+  if (scene.form[ui::statusframe].visible) play::fillStatusReport(scene);
+  sim::rateServices(game);
+  game.tickOfMonth += 1;
+  if (game.quakeReportPending == 1) reportEarthquake(scene);
+  if (values.gMission == 10 && scenario::missionGoalMet(game, 10)) {
+    values.gMission = scenario::kCampaignWon;
+    scenario::checkMissionEnd(scene, screen.folder());
+  }
+}
+
+void captionTick(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  setCaptionIfChanged(scene.text(ui::para1), "Gold:", std::floor(scene.game.gold));
+  setCaptionIfChanged(scene.text(ui::FoodS), "Food:", std::floor(scene.game.food));
+  scene.game.blitCount = 0;
+}
+
+void shakeTick(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  core::GameState& game = scene.game;
+  const sim::ShakeStep step = sim::shake(game);
+  const platform::Rect& place = scene.form[ui::picScroll].place;
+  scene.form.moveTo(ui::picScroll, place.left + step.moveX, place.top);
+  if (!step.over) return;
+  sim::collapse(game, screen.random());
+  sim::rebuildCoverage(game);
+  sim::floodServices(game, sim::FloodCause::other);
+  sim::rebuildCapacity(game);
+  sim::evolveResidences(game);
+  map::markCells(game, 0, core::kLastCell);
+  play::redrawAfterBuild(scene);
+  map::unmarkCells(game, 0, core::kLastCell);
+  sim::endEarthquake(game);
+  scene.timers.disable(timer::Timer12);
+}
+
+void roadLossTick(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  core::GameState& game = scene.game;
+  sim::removeBuildingsWithoutRoad(game);
+  sim::rebuildCoverage(game);
+  sim::rebuildCapacity(game);
+  if (game.overlayView == 0) play::redraw(scene);
+  scene.timers.disable(timer::Timer8);
+}
+
+}  // namespace shell

@@ -1,0 +1,91 @@
+#include "shell/program.h"
+
+#include "shell/game_screen.h"
+#include "shell/menu_screen.h"
+
+namespace shell {
+
+namespace {
+constexpr platform::Size kMapSurface{1984, 1056};
+}
+
+Program::Program(Services& services)
+    : services_(services),
+      speaker_(services.media, services.programFolder),
+      desk_(*services.assets.font),
+      painter_(*services.assets.font),
+      framebuffer_(platform::kScreenWidth, platform::kScreenHeight),
+      canvas_(kMapSurface.width, kMapSurface.height) {}
+
+Program::~Program() {
+  desk_.open(nullptr, nullptr);
+}
+
+void Program::start() {
+  openMenu();
+}
+
+void Program::open(std::unique_ptr<Screen> screen) {
+  if (screen_ != nullptr) closed_.push_back(std::move(screen_));
+  screen_ = std::move(screen);
+  desk_.open(screen_ ? &screen_->form() : nullptr, screen_.get());
+}
+
+void Program::openGame() {
+  auto game = std::make_unique<GameScreen>(*this);
+  GameScreen& opened = *game;
+  const bool cityTakenOver = opened.load();
+  open(std::move(game));
+  // A city that could not be taken over has been told in a box; there is nothing to play.
+  if (!cityTakenOver) openMenu();
+}
+
+void Program::openMenu() {
+  auto menu = std::make_unique<MenuScreen>(*this);
+  MenuScreen& opened = *menu;
+  open(std::move(menu));
+  opened.load();
+}
+
+void Program::end(int exitStatus) {
+  ended_ = true;
+  exitStatus_ = exitStatus;
+  open(nullptr);
+}
+
+void Program::runTimers() {
+  ++depth_;
+  while (screen_ != nullptr) {
+    const int timer = screen_->timers().takeDue();
+    if (timer < 0) break;
+    screen_->tick(timer);
+  }
+  --depth_;
+  settle();
+}
+
+void Program::letWaitingHandlersRun() {
+  ++depth_;
+  if (services_.letEventsIn) services_.letEventsIn();
+  runTimers();
+  --depth_;
+}
+
+void Program::settle() {
+  if (depth_ == 0) closed_.clear();
+}
+
+std::int64_t Program::nextDue() {
+  const std::int64_t timers = screen_ != nullptr ? screen_->timers().nextDue() : -1;
+  const std::int64_t tooltip = desk_.tooltipDue();
+  if (timers < 0 || (tooltip >= 0 && tooltip < timers)) return tooltip;
+  return timers;
+}
+
+const platform::DamageList& Program::paint() {
+  const std::int64_t now = services_.clock.milliseconds();
+  desk_.setNow(now);
+  return painter_.paint(framebuffer_, desk_, now);
+}
+
+}  // namespace shell

@@ -1,0 +1,209 @@
+#include "shell/saved_games.h"
+
+#include "core/goals.h"
+#include "core/new_game.h"
+#include "core/number_text.h"
+#include "map/ground.h"
+#include "map/road_shapes.h"
+#include "map/views.h"
+#include "platform/files.h"
+#include "play/palette.h"
+#include "play/panels.h"
+#include "play/preferences.h"
+#include "scenario/puzzles.h"
+#include "shell/program.h"
+
+namespace shell {
+
+namespace {
+
+namespace ui = play::ui;
+namespace timer = play::timer;
+using play::Scene;
+
+constexpr const char* kEnding = ".sav";
+constexpr const char* kLoadError = "Error loading saved game";
+constexpr const char* kSaveError = "Save Error";
+
+/// Save and load panel stand in the middle of 700 x 700, not of the screen.
+void showFilePanel(Scene& scene, int panel) {
+  scene.form.centre(panel, 700, 700);
+  scene.form.show(panel);
+}
+
+const std::string* selectedName(const platform::Control& control) {
+  const platform::ListContent& list = *control.list;
+  if (list.selected < 0 || list.selected >= static_cast<int>(list.items.size())) return nullptr;
+  return &list.items[static_cast<std::size_t>(list.selected)];
+}
+
+}  // namespace
+
+void refreshFileList(GameScreen& screen, int list) {
+  platform::ListContent& content = *screen.form()[list].list;
+  content.items = platform::listFiles(screen.folder(), kEnding);
+  content.selected = -1;
+  content.top = 0;
+}
+
+void writeDate(Scene& scene) {
+  platform::Text& text = scene.text(ui::tarih);
+  core::setCaption(text, "Date: ", scene.game.month, " / ");
+  text.append(core::NumberText(scene.values.gYear));
+}
+
+void startAutoPlay(GameScreen& screen) {
+  screen.scene().game.musicAuto = 0;
+  screen.scene().game.musicTrack = 0;
+  chooseMusic(screen, sound::MusicChoice::autoPlay);
+}
+
+void drawFirstCoat(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  scene.form[ui::picScroll].place = map::surfacePlace(map::kTallCells);
+  map::DrawTiles(scene.stage, map::kTallCells);
+}
+
+void clickSaveGame(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  scene.cue(sound::kClick);
+  scene.form.hide(ui::gamemenu);
+  refreshFileList(screen, ui::File2);
+  showFilePanel(scene, ui::framesave);
+}
+
+void clickLoadGame(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  scene.cue(sound::kClick);
+  scene.form.hide(ui::gamemenu);
+  refreshFileList(screen, ui::File1);
+  showFilePanel(scene, ui::frameload);
+}
+
+void clickCancelSave(GameScreen& screen) {
+  screen.scene().cue(sound::kClick);
+  screen.form().hide(ui::framesave);
+  play::showGameMenu(screen.scene());
+}
+
+void clickCancelLoad(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  scene.cue(sound::kClick);
+  scene.form.hide(ui::frameload);
+  if (scene.values.gLoadPending == 1) {
+    scene.timers.enable(timer::Timer10);
+  } else {
+    play::showGameMenu(scene);
+  }
+}
+
+void clickSave(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  scene.cue(sound::kClick);
+  const platform::Text& typed = scene.text(ui::txtsavename);
+  std::string name;
+  if (!typed.empty()) {
+    name = std::string(typed.view()) + kEnding;
+  } else if (const std::string* old = selectedName(scene.form[ui::File2])) {
+    name = *old;
+  } else {
+    scene.desk.showBox(kSaveError, "Choose from the list or enter a new one!");
+    return;
+  }
+  std::string error;
+  if (!store::saveGame(screen.folder() + "/" + name, scene.game, scene.values, error)) {
+    scene.desk.showBox(kSaveError, error);
+    return;
+  }
+  scene.form.hide(ui::framesave);
+  play::say(scene, "Game saved");
+}
+
+void clickLoad(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  scene.cue(sound::kClick);
+  const std::string* name = selectedName(scene.form[ui::File1]);
+  if (name == nullptr) {
+    scene.desk.showBox(kLoadError, "Please select a game for loading");
+    return;
+  }
+  // The file is read and checked whole before anything on the screen changes: one that is no sound game
+  // leaves the running one as it was.
+  std::string error;
+  screen.waitingRecord() = store::readGame(screen.folder() + "/" + *name, error);
+  if (screen.waitingRecord() == nullptr) {
+    scene.desk.showBox(kLoadError, error);
+    return;
+  }
+  if (scene.form[ui::Frame21].visible) {
+    scene.form.hide(ui::Frame21);
+    scene.timers.disable(timer::Timer14);
+  }
+  scene.stage.canvas.clear();
+  if (scene.values.gLoadPending == 1) startAutoPlay(screen);
+  scene.timers.enable(timer::Timer3);
+  for (const int panel : {ui::Frame14, ui::frameload, ui::Frame6, ui::tileinfo, ui::Frame2}) {
+    scene.form.hide(panel);
+  }
+  scene.form.centre(ui::Frametoload);
+  scene.form.show(ui::Frametoload);
+  play::hideCursor(scene);
+  scene.timers.disable(timer::Timer5);
+  scene.timers.disable(timer::Timer6);
+  scene.form.moveTo(ui::picScroll, -592, -228);
+  scene.game.scrollX = scene.game.scrollY = 0;
+}
+
+void rebuildLoadedCity(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  core::GameState& game = scene.game;
+  game.reserved[1] = 0;
+  game.scratchCount = 0;
+  game.cursorFootprint = 1;
+  game.demolishFlag = 0;
+  scene.timers.setEnabled(timer::Timer7, game.walkersOn == 1);
+  scene.timers.disable(timer::Timer6);
+  map::readmap(game, scene.values, screen.random());
+  game.overlayView = 0;
+  drawFirstCoat(screen);
+  map::shapeAllRoads(game);
+  map::applyOverlayView(scene.stage);
+  scene.text(ui::currentview).assign(map::viewName(0));
+  core::setCaption(scene.text(ui::para1), "Gold:", game.gold);
+  writeDate(scene);
+  play::say(scene, "Game loaded");
+  scene.timers.enable(timer::Timer5);
+  scene.timers.disable(timer::Timer3);
+  scene.form.show(ui::Frame6);
+  scene.form.show(ui::tileinfo);
+  scene.form.show(ui::Frame2);
+  scene.form.hide(ui::Frametoload);
+  scene.form.show(ui::Frame14);
+  core::clearWalkers(game);
+  play::resetPaletteAfterLoad(scene);
+  play::writeSpeed(scene);
+  play::showUnlockedTools(scene);
+}
+
+void finishLoad(GameScreen& screen) {
+  Scene& scene = screen.scene();
+  core::GameState& game = scene.game;
+  scene.timers.disable(timer::Timer3);
+  if (screen.waitingRecord() == nullptr) return;
+  play::hideCursor(scene);
+  store::applyRecord(*screen.waitingRecord(), game, scene.values);
+  screen.waitingRecord().reset();
+  rebuildLoadedCity(screen);
+  scene.values.gLoadPending = 0;
+  scene.timers.enable(timer::Timer2);
+  if (game.walkersOn == 1) {
+    scene.timers.enable(timer::Timer6);
+    scene.timers.enable(timer::Timer7);
+  }
+  if (core::isPuzzle(scene.values.gMission)) {
+    scene.timers.enable(timer::Timer14);
+    scenario::writePuzzleGoal(scene);
+  }
+}
+
+}  // namespace shell
