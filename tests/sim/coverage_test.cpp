@@ -1,0 +1,254 @@
+#include "sim/coverage.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/random.h"
+#include "sim/city.h"
+
+namespace sim {
+namespace {
+
+using core::GameState;
+using core::kDoctor;
+using core::kMarket;
+
+// The rule of the flood, told plainly: five services, twelve passes, every cell asked every time.
+void floodPlainly(GameState& g) {
+  const auto side = [&](int k, int x, int y, int one, int other) {
+    const int code = g.tileCode(x, y);
+    if (core::serviceOfCode(code) != k) return false;
+    return k == kDoctor || code % 10 == one || code % 10 == other;
+  };
+  for (int y = 0; y <= 30; ++y) {
+    for (int x = 0; x <= 30; ++x) {
+      for (int k = 1; k <= 5 && g.tileCode(x, y) == 7; ++k) {
+        if (side(k, x - 1, y, 2, 4) || side(k, x, y - 1, 3, 4) || side(k, x + 1, y, 1, 3) ||
+            side(k, x, y + 1, 1, 2)) {
+          g.roadService[k](x, y) = 1;
+        }
+      }
+    }
+  }
+  for (int pass = 1; pass <= 12; ++pass) {
+    for (int y = 0; y <= 30; ++y) {
+      for (int x = 0; x <= 30; ++x) {
+        for (int k = 1; k <= 5; ++k) {
+          auto& road = g.roadService[k];
+          auto& cell = g.cellService[k];
+          const bool beside = road(x - 1, y) == 1 || road(x + 1, y) == 1 || road(x, y - 1) == 1 ||
+                              road(x, y + 1) == 1;
+          if (g.tileCode(x, y) == 7 && road(x, y) == 0 && beside) road(x, y) = 1;
+          if (!core::isResidenceCode(g.tileCode(x, y))) continue;
+          if (beside && core::coverGrid(g, k)(x, y) == 1) cell(x, y) = 1;
+          for (int n = 0; n < 9 && cell(x, y) == 1; ++n) {
+            const int a = x - 1 + n % 3;
+            const int b = y - 1 + n / 3;
+            if (g.buildingId(a, b) == g.buildingId(x, y)) cell(a, b) = 1;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(Flood, DoesExactlyWhatThePlainRuleDoes) {
+  platform::Random random(nullptr, 11);
+  const auto whole = [&](int below) { return static_cast<int>(below * random.uniform()); };
+  constexpr int kBuilt[] = {6, 21, 22, 23, 24, 31, 34, 42, 43, 51, 54, 81};
+  for (int city = 0; city < 60; ++city) {
+    City fast;
+    GameState& g = fast.game;
+    const int roads = 30 + whole(60);
+    for (int y = -1; y <= 31; ++y) {
+      for (int x = -1; x <= 31; ++x) {
+        const bool isRoad = whole(100) < roads;
+        const bool lives = whole(100) < 60;
+        g.tileCode(x, y) = isRoad ? 7 : lives ? 11 + whole(4) : kBuilt[whole(12)];
+        if (whole(20) == 0) g.tileCode(x, y) = 0;
+        g.buildingId(x, y) = 1 + whole(3);
+        const int k = 1 + whole(5);
+        if (whole(60) == 0) g.roadService[k](x, y) = 1;
+        if (whole(60) == 0) g.cellService[k](x, y) = 1;
+        core::coverGrid(g, k)(x, y) = whole(2);
+      }
+    }
+    City plain = fast;
+    for (int flood = 0; flood < 2; ++flood) {
+      floodServices(g, FloodCause::press);
+      floodPlainly(plain.game);
+      for (int n = 0; n < 5 * 50 * 50; ++n) {
+        const int k = 1 + n / 2500;
+        const int x = n % 50 - 10;
+        const int y = n / 50 % 50 - 10;
+        for (auto layers : {&GameState::roadService, &GameState::cellService}) {
+          const core::Flag flag = (g.*layers)[k](x, y);
+          const core::Flag wanted = (plain.game.*layers)[k](x, y);
+          ASSERT_TRUE(flag == wanted && flag.isSet() == wanted.isSet())
+              << "city " << city << " service " << k << " at " << x << ", " << y;
+        }
+      }
+    }
+  }
+}
+
+TEST(Flood, RunsAnyWayWithTheScanAndTwelveCellsAgainstIt) {
+  City against;
+  against.road(2, 10, 21, 10);
+  against.block(core::kMarketCode, 22, 10);
+  against.rebuild();
+  EXPECT_EQ(against.count(against.game.roadService[kMarket]), 13);
+  against.rebuild();
+  EXPECT_EQ(against.count(against.game.roadService[kMarket]), 20);
+
+  City with;
+  with.block(core::kMarketCode, 2, 10);
+  with.road(4, 11, 23, 11);
+  with.rebuild();
+  EXPECT_EQ(with.count(with.game.roadService[kMarket]), 20);
+}
+
+TEST(Flood, AsksForTheAreaAndARoadOfTheSameNetwork) {
+  City city;
+  city.block(core::kMarketCode, 10, 10);
+  city.road(12, 9, 14, 9);  // meets the market at a corner only
+  city.block(core::kResidenceCode, 13, 10);
+  city.rebuild();
+  EXPECT_EQ(city.count(city.game.roadService[kMarket]), 0);
+  EXPECT_EQ(city.game.marketCover(13, 10), 1);
+  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 0);
+
+  city.road(12, 10, 12, 10);
+  city.rebuild();
+  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 4);
+  EXPECT_EQ(city.game.cellServices(14, 11), 1);
+
+  // What is set once stays, whatever becomes of the market, until the layer is cleared.
+  for (int n = 0; n < 4; ++n) city.game.tileCode(10 + n % 2, 10 + n / 2) = 0;
+  city.rebuild();
+  EXPECT_EQ(city.game.marketCover(13, 10), 0);
+  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 4);
+  clearLayer(city.game, kMarket);
+  city.rebuild();
+  EXPECT_EQ(city.game.cellServices(14, 11), 0);
+}
+
+TEST(Flood, APressServesThePlacedBlockByItsFarCell) {
+  City city;
+  city.block(core::kMarketCode, 10, 10);  // reaches x 16
+  city.road(12, 8, 12, 10);
+  city.road(13, 8, 18, 8);
+  city.road(18, 9, 18, 10);
+  city.block(core::kResidenceCode, 16, 10);  // its column 17 touches the road, 16 is covered
+  city.game.cellX = 16;
+  city.game.cellY = 10;
+  city.rebuild(FloodCause::press);
+  city.game.lastPaletteTool = core::kResidenceTool;
+  city.rebuild(FloodCause::other);
+  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 0);
+  GameState earlier = city.game;
+  city.rebuild(FloodCause::press);
+  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 4);
+
+  // The step comes before the seeding: it sees only what roads carried before.
+  for (int k = 1; k <= 5; ++k) clearLayer(city.game, k);
+  city.rebuild(FloodCause::press);
+  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 0);
+
+  // Nobody asks what stands there: a road laid at (15, 10) has the empty land beside it served.
+  city.game = earlier;
+  for (int n = 0; n < 4; ++n) city.game.tileCode(16 + n % 2, 10 + n / 2) = 0;
+  city.rebuild(FloodCause::press);
+  EXPECT_EQ(city.game.cellService[kMarket](17, 11), 1);
+}
+
+TEST(Coverage, EachCellOfABuildingCastsItsSquare) {
+  constexpr int kAreas[] = {144, 196, 100, 144, 81};
+  constexpr int kCodes[] = {21, 31, 41, 51, 6};
+  for (int k = 1; k <= 5; ++k) {
+    City city;
+    if (k == kDoctor) {
+      city.single(6, 1, 29);
+    } else {
+      city.block(kCodes[k - 1], 1, 28);
+    }
+    city.rebuild();
+    for (int other = 1; other <= 5; ++other) {
+      EXPECT_EQ(city.count(core::coverGrid(city.game, other)), other == k ? kAreas[k - 1] : 0);
+    }
+  }
+  City city;
+  city.block(core::kMarketCode, 10, 10);
+  city.rebuild();
+  EXPECT_EQ(city.game.marketCover(5, 16) + city.game.marketCover(16, 5), 2);
+  EXPECT_EQ(city.game.marketCover(4, 10) + city.game.marketCover(10, 17), 0);
+
+  // Damaged cities stand up to the rim of the tables: nothing is written beside them.
+  city.block(core::kSchoolCode, 34, 34);
+  city.rebuild();
+  EXPECT_EQ(city.game.schoolCover(39, 39), 1);
+  EXPECT_EQ(city.count(city.game.schoolCover), 12 * 12);
+}
+
+TEST(Capacity, FollowsServicesTaxAndFood) {
+  City city;
+  city.block(core::kResidenceCode, 5, 5);
+  const auto housing = [&](int services, int tax) {
+    city.game.taxRate = tax;
+    city.serve(5, 5, services);
+    return static_cast<double>(city.game.housingCapacity);
+  };
+  EXPECT_EQ(housing(0, 15), 8);
+  EXPECT_EQ(housing(5, 15), 48);
+  EXPECT_EQ(housing(5, 0), 62);
+  EXPECT_EQ(housing(5, 30), 33);
+  city.game.food = 0;
+  EXPECT_EQ(housing(1, 0), 16);
+  EXPECT_EQ(housing(0, 0), 10);
+
+  // The floor comes once, after the sum: twice 17.6 are 35.
+  city.game.food = 0.5;
+  city.block(core::kResidenceCode, 8, 5);
+  city.serve(8, 5, 1);
+  EXPECT_EQ(housing(1, 10), 35);
+}
+
+TEST(Evolution, ThresholdsAreStrictAndThePoorestCellDecides) {
+  City city;
+  GameState& g = city.game;
+  city.block(core::kResidenceCode, 5, 5);
+  const auto imageAt = [&](int services, int tax) {
+    g.taxRate = tax;
+    city.serve(5, 5, services);
+    return int{g.tileImage(5, 5)};
+  };
+  EXPECT_EQ(imageAt(1, 15), 4);
+  EXPECT_EQ(imageAt(4, 20), 19);
+  EXPECT_EQ(imageAt(4, 15), 3);
+  EXPECT_EQ(g.cellTall(5, 5), 1);
+  EXPECT_EQ(imageAt(5, 30), 19);
+  EXPECT_EQ(g.cellTall(5, 5), 0);
+
+  // A house is marked with all behind it though nothing changed; a house that falls marks less.
+  g.cellDirty.fill(0);
+  evolveResidences(g);
+  EXPECT_EQ(city.count(g.cellDirty), 4 + 8);
+  g.cellDirty.fill(0);
+  g.cellCapacity(6, 6) = 4;
+  evolveResidences(g);
+  EXPECT_EQ(g.tileImage(5, 5), 4);
+  EXPECT_EQ(city.count(g.cellDirty), 4 + 5);
+  EXPECT_EQ(g.cellDirty(4, 6) + g.cellDirty(6, 4), 2);
+  g.cellDirty.fill(0);
+  evolveResidences(g);
+  EXPECT_EQ(city.count(g.cellDirty), 0);
+
+  EXPECT_EQ(imageAt(5, 15), 3);
+  g.food = 0;
+  g.cellDirty.fill(0);
+  EXPECT_EQ(imageAt(5, 15), 4);
+  EXPECT_EQ(city.count(g.cellDirty), 4 + 8);
+  EXPECT_EQ(g.cellTall(5, 5), 0);
+}
+
+}  // namespace
+}  // namespace sim

@@ -1,0 +1,102 @@
+#include "sim/disasters.h"
+
+#include <gtest/gtest.h>
+
+#include "sim/city.h"
+
+namespace sim {
+namespace {
+
+TEST(Earthquake, ShakesSixtyTimesAndEndsWhereItBegan) {
+  City city;
+  city.values.gMission = 3;
+  city.game.month = 3;
+  EXPECT_TRUE(earthquakeDue(city.game, city.values));
+  city.game.population = 77;
+  city.game.quakeShakePhase = 1;
+  beginEarthquake(city.game);
+  EXPECT_EQ(city.game.populationBeforeQuake, 77);
+  int at = 0;
+  int ticks = 0;
+  for (bool over = false; !over; ++ticks) {
+    const ShakeStep step = shake(city.game);
+    EXPECT_EQ(step.moveX, ticks % 2 == 0 ? -32 : 32);
+    at += step.moveX;
+    over = step.over;
+  }
+  EXPECT_EQ(ticks, 60);
+  EXPECT_EQ(at, 0);
+}
+
+TEST(Earthquake, DrawsForEachStandingCellAndClearsTheLayersOfWhatStands) {
+  City city;
+  core::GameState& g = city.game;
+  city.block(core::kResidenceCode, 4, 4);
+  city.block(core::kResidenceCode, 6, 4);  // wall to wall with the first
+  city.road(4, 6, 11, 6);
+  city.block(core::kMarketCode, 8, 7);
+  city.farm(20, 20);
+  city.rebuild();
+  g.roadService[core::kDoctor](4, 6) = 1;
+  ASSERT_EQ(g.cellServices(4, 4), 1);
+
+  // The first cell of one residence falls, the last of the other, the market stands.
+  platform::Random random(nullptr);
+  for (const double u : {0.0999, 0.1, 0.5, 0.99, 0.0, 0.1, 0.1, 0.1, 0.1}) random.feed(u);
+  random.feed(0.625);
+  g.cellDirty.fill(0);
+  collapse(g, random);
+  EXPECT_EQ(random.uniform(), 0.625);
+  for (int x = 4; x <= 7; ++x) EXPECT_EQ(g.tileCode(x, 5), 0);
+  EXPECT_EQ(city.count(g.cellDirty), 8);
+  EXPECT_EQ(g.buildingId(4, 4), 1);
+  EXPECT_EQ(g.tileCode(9, 8), 24);
+  EXPECT_EQ(g.tileCode(20, 20), 81);
+  EXPECT_EQ(city.count(g.roadService[core::kMarket]), 0);
+  EXPECT_EQ(city.count(g.cellService[core::kMarket]), 0);
+  EXPECT_EQ(g.roadService[core::kDoctor](4, 6), 1);
+  city.rebuild();
+  EXPECT_EQ(city.count(g.roadService[core::kMarket]), 8);
+}
+
+TEST(Theft, TakesAQuarterAndTheFraction) {
+  City city;
+  city.values.gMission = 2;
+  city.values.gYear = 1718;
+  city.game.month = 2;
+  EXPECT_TRUE(theftDue(city.game, city.values));
+  city.game.gold = 1000.6;
+  EXPECT_EQ(steal(city.game), 250);
+  EXPECT_EQ(city.game.gold, 750);
+  city.game.gold = -1;
+  EXPECT_EQ(steal(city.game), -1);
+  EXPECT_EQ(city.game.gold, -1);
+}
+
+TEST(RoadLoss, RemovesWhatNoRoadTouchesByASide) {
+  City city;
+  core::GameState& g = city.game;
+  city.road(10, 10, 12, 10);
+  city.block(core::kResidenceCode, 11, 11);  // touches by a side
+  city.single(core::kDoctorCode, 13, 10);    // likewise
+  city.farm(20, 20);
+  EXPECT_FALSE(anyBuildingWithoutRoad(g));
+  city.block(core::kChurchCode, 8, 11);    // touches by a corner, and by a side a house
+  city.single(core::kDoctorCode, 13, 11);  // touches a doctor and a corner
+  EXPECT_TRUE(anyBuildingWithoutRoad(g));
+  g.cellTall(8, 11) = 1;
+  g.cellService[core::kMarket](9, 12) = 1;
+  g.cellDirty.fill(0);
+  removeBuildingsWithoutRoad(g);
+  EXPECT_FALSE(anyBuildingWithoutRoad(g));
+  EXPECT_EQ(g.tileCode(8, 11) + g.tileCode(9, 12) + g.tileCode(13, 11) + g.cellTall(8, 11), 0);
+  EXPECT_EQ(g.tileCode(11, 11), 11);
+  EXPECT_EQ(g.tileCode(13, 10), 6);
+  EXPECT_EQ(g.tileCode(22, 22), 89);
+  EXPECT_EQ(g.cellService[core::kMarket](9, 12), 1);
+  EXPECT_GT(g.buildingId(9, 12), 0);
+  EXPECT_EQ(city.count(g.cellDirty), 49 + 49 - 2 * 7);
+}
+
+}  // namespace
+}  // namespace sim

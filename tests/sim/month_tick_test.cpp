@@ -1,0 +1,175 @@
+#include "sim/month_tick.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "sim/city.h"
+
+namespace sim {
+namespace {
+
+TEST(Population, ComesByAFifthOrByOneAndLeavesAtOnce) {
+  City city;
+  city.game.housingCapacity = 100;
+  for (const int expected :
+       {20, 36, 48, 58, 66, 72, 77, 81, 84, 87, 89, 91, 92, 93, 94, 96, 97, 98, 99, 100, 100}) {
+    movePopulation(city.game);
+    EXPECT_EQ(city.game.population, expected);
+  }
+  city.game.housingCapacity = 35;
+  movePopulation(city.game);
+  EXPECT_EQ(city.game.population, 35);
+}
+
+TEST(Milestones, ComeOnceAndInTheirOrder) {
+  City city;
+  city.game.population = 99;
+  EXPECT_FALSE(reachMilestone(city.game, 0));
+  city.game.population = 250;
+  EXPECT_TRUE(reachMilestone(city.game, 0) && reachMilestone(city.game, 1));
+  EXPECT_FALSE(reachMilestone(city.game, 2));
+  EXPECT_FALSE(reachMilestone(city.game, 0));
+  EXPECT_EQ(city.game.churchUnlocked + city.game.schoolUnlocked, 2);
+  EXPECT_EQ(city.game.toolUnlocked[1] + city.game.toolUnlocked[2], 2);
+  EXPECT_EQ(city.game.toolUnlocked[3] + city.game.doctorUnlocked, 0);
+}
+
+TEST(Food, IsHarvestedEatenAndFlooredInThisOrder) {
+  City city;
+  city.values.gFertility = 1;
+  city.game.farmCount = 1;
+  city.game.food = 0;
+  city.game.population = 100;
+  harvest(city.game, city.values);
+  consume(city.game);
+  EXPECT_EQ(city.game.food, 8);
+  EXPECT_TRUE(foodIsLow(city.game));
+  city.game.food = 37.5;
+  consume(city.game);
+  EXPECT_EQ(city.game.food, 12);
+  city.game.population = 96;
+  EXPECT_FALSE(foodIsLow(city.game));  // an eighth is enough
+  consume(city.game);
+  EXPECT_EQ(city.game.food, 0);
+  EXPECT_FALSE(foodIsLow(city.game));
+
+  city.values.gMission = 8;
+  city.game.gold = -20;
+  EXPECT_STREQ(kingsAid(city.game, city.values), "The king has sent you foods and golds");
+  EXPECT_EQ(city.game.food, 200);
+  EXPECT_EQ(city.game.gold, 130);
+  city.values.gMission = 6;
+  EXPECT_EQ(kingsAid(city.game, city.values), nullptr);
+}
+
+TEST(Famine, RebuildsOnceWhenItComesAndOnceWhenItGoes) {
+  City city;
+  const auto step = [&](double food) {
+    city.game.food = food;
+    const FamineStep asked = stepFamine(city.game);
+    return asked.banner * 100 + asked.rebuild * 10 + city.game.famineState.whole();
+  };
+  EXPECT_EQ(step(0), 12);  // a new game: rebuilt without a word
+  EXPECT_EQ(step(0), 2);
+  EXPECT_EQ(step(1), 10);
+  EXPECT_EQ(step(1), 0);
+  EXPECT_EQ(step(0), 112);
+  EXPECT_EQ(step(0), 2);
+  city.game.famineState = 1;
+  EXPECT_EQ(step(5), 10);
+}
+
+TEST(Month, TakesTheNewLengthTheYearAndEmptySums) {
+  City city;
+  city.values.gYear = 1715;
+  city.game.month = 12;
+  city.game.ticksPerMonth = 16;
+  city.game.tickOfMonth = 30;
+  city.game.taxThisMonth = city.game.maintenanceThisMonth = city.game.constructionThisMonth = 9;
+  beginMonth(city.game, city.values);
+  EXPECT_EQ(city.game.monthLength, 16);
+  EXPECT_EQ(city.game.historyIndex, 2);
+  EXPECT_EQ(city.game.month, 1);
+  EXPECT_EQ(city.values.gYear, 1716);
+  EXPECT_EQ(city.game.taxThisMonth + city.game.maintenanceThisMonth + city.game.tickOfMonth +
+                city.game.constructionThisMonth,
+            0);
+}
+
+TEST(Money, MovesAMonthsSumInAMonthsTicks) {
+  City city;
+  city.block(core::kTavernCode, 3, 3);
+  city.single(core::kDoctorCode, 6, 6);
+  city.farm(10, 10);
+  city.road(1, 1, 20, 1);
+  city.block(core::kResidenceCode, 20, 20);
+  city.game.population = 100;
+  city.game.gold = 0;
+  for (int tick = 0; tick < 30; ++tick) moveMoney(city.game);
+  EXPECT_EQ(city.game.maintenancePerMonth, 120);
+  EXPECT_EQ(city.game.maintenancePerTick, 4);
+  EXPECT_EQ(city.game.taxPerTick, 2.5);
+  EXPECT_EQ(city.game.gold, -45);
+  EXPECT_EQ(city.game.taxThisMonth, 75);
+}
+
+TEST(Farms, ChangePictureAtThreeMomentsOfTheMonth) {
+  for (const int length : {16, 25, 30, 34}) {
+    City city;
+    city.farm(7, 7);
+    city.game.monthLength = length;
+    int moments = 0;
+    for (int tick = 0; tick <= length; ++tick) {
+      city.game.tickOfMonth = tick;
+      if (!growFarms(city.game)) continue;
+      const int expected[] = {13, 54, 55};
+      EXPECT_EQ(city.game.tileImage(9, 9), expected[moments++]);
+      EXPECT_EQ(tick, moments == 1 ? 1 : length / 3 * (moments - 1));
+      EXPECT_EQ(city.count(city.game.cellDirty), 9);
+    }
+    EXPECT_EQ(moments, 3);
+  }
+}
+
+TEST(History, FloorsEachSumAndGoesOnFromColumnFour) {
+  City city;
+  city.values.gFertility = 0.8;
+  city.game.farmCount = 1;
+  city.game.population = 101;
+  city.game.taxThisMonth = 10.25;
+  city.game.maintenanceThisMonth = 5.5;
+  city.game.constructionThisMonth = 40;
+  city.game.history(3, 1) = 60;
+  city.game.historyIndex = 43;
+  city.game.tavernRating = 7;
+  city.game.churchRating = 8;
+  wrapHistory(city.game);
+  writeHistory(city.game, city.values);
+  constexpr int kRows[] = {101, 41, 10, -5, -40, -36, 26, -25, 1000, 0, 0, 8, 0, 7};
+  for (int row = 1; row <= 14; ++row) EXPECT_EQ(city.game.history(4, row), kRows[row - 1]) << row;
+  EXPECT_EQ(city.game.history(43, 1), 0);
+  city.game.historyIndex = 42;
+  wrapHistory(city.game);
+  EXPECT_EQ(city.game.historyIndex, 42);
+}
+
+TEST(Ratings, AreTheFloorOfTheShareDividedFirst) {
+  City city;
+  rateServices(city.game);
+  EXPECT_EQ(city.game.marketRating, 0);
+  for (int n = 0; n < 50; ++n) {
+    const int x = 1 + n % 10 * 2;
+    const int y = 1 + n / 10 * 2;
+    city.block(core::kResidenceCode, x, y);
+    city.serve(x, y, n < 25 ? 2 : n < 29 ? 1 : 0);
+  }
+  rateServices(city.game);
+  EXPECT_EQ(city.game.marketRating, 57);
+  EXPECT_EQ(city.game.schoolRating, 50);
+  EXPECT_EQ(city.game.doctorRating, 0);
+  EXPECT_EQ(city.game.withoutAccess, 200);
+}
+
+}  // namespace
+}  // namespace sim
