@@ -21,6 +21,7 @@ class FieldWriter {
 
   /// A number with up to 15 digits; what is unset or has no decimal form is an empty field.
   void put(const core::Number& value);
+  void put(double value) { put(core::Number(value)); }
   void put(int value);
   template <class T>
   void put(const core::Whole<T>& value) {

@@ -224,7 +224,9 @@ bool isInside(const store::Record& record) {
 
 // Null when the reader keeps its promises.
 const char* brokenPromise(const std::string& text, bool& taken) {
-  auto first = std::make_unique<store::Record>(), second = std::make_unique<store::Record>();
+  // What they held before must not matter.
+  static const auto first = std::make_unique<store::Record>();
+  static const auto second = std::make_unique<store::Record>();
   std::string error;
   taken = store::parseRecord(text, *first, error);
   if (!taken) return isShowable(error) ? nullptr : "the message cannot be shown";
