@@ -9,8 +9,14 @@ namespace {
 
 constexpr std::size_t kPixel = 4;
 
+// Two pixels mixed, `share` parts of 256 of the second. The four bytes of a pixel are worked on as two
+// pairs, each byte with room above it.
 std::uint32_t blended(std::uint32_t a, std::uint32_t b, std::uint32_t share) {
-  return (a * (256 - share) + b * share + 128) >> 8;
+  constexpr std::uint32_t kPair = 0x00FF00FF, kHalf = 0x00800080;
+  const std::uint32_t rest = 256 - share;
+  const std::uint32_t low = ((a & kPair) * rest + (b & kPair) * share + kHalf) >> 8;
+  const std::uint32_t high = (a >> 8 & kPair) * rest + (b >> 8 & kPair) * share + kHalf;
+  return (low & kPair) | (high & ~kPair);
 }
 
 }  // namespace
@@ -37,6 +43,7 @@ Scaler::Scaler(Size picture, Size display) : picture_(picture) {
   place_.top = (display.height - place_.height) / 2;
   columns_ = taps(picture.width, place_.width);
   rows_ = taps(picture.height, place_.height);
+  packed_.resize(static_cast<std::size_t>(picture.width) + 1);
   for (auto& row : stretched_) {
     row.resize(static_cast<std::size_t>(place_.width));
   }
@@ -92,22 +99,21 @@ const std::uint32_t* Scaler::stretchedRow(const Surface& picture, int row, const
   const int red = display.red, green = display.green, blue = display.blue;
   const auto begin = static_cast<std::size_t>(part.left - place_.left);
   const auto end = begin + static_cast<std::size_t>(part.width);
-  if (place_.width == picture_.width) {
-    for (std::size_t x = begin; x < end; ++x) {
-      const std::uint8_t* const a = from + x * 3;
-      to[x] =
-          std::uint32_t{a[0]} << red | std::uint32_t{a[1]} << green | std::uint32_t{a[2]} << blue;
-    }
-    return to;
+  const bool same = place_.width == picture_.width;
+  std::uint32_t* const packed = same ? to : packed_.data();
+  const auto first = static_cast<std::size_t>(columns_[begin].first);
+  const auto last = std::min(static_cast<std::size_t>(columns_[end - 1].first) + 2,
+                             static_cast<std::size_t>(picture_.width));
+  for (std::size_t x = first; x < last; ++x) {
+    const std::uint8_t* const a = from + x * 3;
+    packed[x] =
+        std::uint32_t{a[0]} << red | std::uint32_t{a[1]} << green | std::uint32_t{a[2]} << blue;
   }
+  if (same) return to;
   for (std::size_t x = begin; x < end; ++x) {
     const Tap tap = columns_[x];
-    const std::uint8_t* const a = from + static_cast<std::size_t>(tap.first) * 3;
-    // The last pixel of a row has none behind it, and no share in it.
-    const std::uint8_t* const b = tap.share == 0 ? a : a + 3;
-    const auto share = static_cast<std::uint32_t>(tap.share);
-    to[x] = blended(a[0], b[0], share) << red | blended(a[1], b[1], share) << green |
-            blended(a[2], b[2], share) << blue;
+    const std::uint32_t* const a = packed + tap.first;
+    to[x] = blended(a[0], a[1], static_cast<std::uint32_t>(tap.share));
   }
   return to;
 }

@@ -55,6 +55,7 @@ class Scaler {
   bool whole_ = false;
   std::vector<Tap> columns_;
   std::vector<Tap> rows_;
+  std::vector<std::uint32_t> packed_;        // a row of the picture in the display's order of bits
   std::vector<std::uint32_t> stretched_[2];  // rows of the picture at the display's width
   int stretchedRows_[2] = {-1, -1};
 };

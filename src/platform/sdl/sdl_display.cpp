@@ -5,10 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstring>
+#include <string_view>
 
 #include "platform/damage.h"
 #include "platform/png.h"
+#include "platform/sdl/hush.h"
 #include "platform/sdl/window_manager.h"
 
 namespace platform {
@@ -48,15 +49,23 @@ bool SdlDisplay::startVideo() {
   SDL_SetHint(SDL_HINT_APP_NAME, kTitle);
   SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
   SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+  const Hush hush;
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
     failure_ = SDL_GetError();
     return false;
   }
   videoStarted_ = true;
+  const std::string_view driver = SDL_GetCurrentVideoDriver();
+  // Where there is no display the library may take a driver that shows nothing, unasked.
+  if (SDL_getenv("SDL_VIDEODRIVER") == nullptr && (driver == "offscreen" || driver == "dummy")) {
+    failure_ = "there is no display";
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    videoStarted_ = false;
+    return false;
+  }
   // Straight to the window: a renderer behind the window's surface costs a tenth of a second at the
   // start and a hundred megabytes. Only X has such a surface of its own.
-  const char* driver = SDL_GetCurrentVideoDriver();
-  if (driver != nullptr && std::strcmp(driver, "x11") == 0) {
+  if (driver == "x11") {
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     managed_ = windowManagerRuns();
   }

@@ -2,13 +2,12 @@
 
 #include <SDL.h>
 #include <SDL_mixer.h>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cstdio>
 
 #include "platform/files.h"
+#include "platform/sdl/hush.h"
 
 namespace platform {
 
@@ -41,26 +40,6 @@ bool isSoundFont(const char* path) {
   std::fclose(file);
   return read && std::string_view(head, sizeof head) == "RIFF";
 }
-
-// Keeps standard error closed to libraries that write whole pages there where a device is missing.
-class Hush {
- public:
-  Hush() : kept_(dup(STDERR_FILENO)) {
-    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    if (kept_ >= 0 && nowhere >= 0) dup2(nowhere, STDERR_FILENO);
-    if (nowhere >= 0) close(nowhere);
-  }
-  ~Hush() {
-    if (kept_ < 0) return;
-    dup2(kept_, STDERR_FILENO);
-    close(kept_);
-  }
-  Hush(const Hush&) = delete;
-  Hush& operator=(const Hush&) = delete;
-
- private:
-  int kept_;
-};
 
 // A device that plays, or silence for good: with a make-believe device the music would be worked
 // out and thrown away.
