@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "core/game_state.h"
+#include "platform/random.h"
 #include "play/scene.h"
 #include "shell/screen.h"
 #include "sound/music.h"

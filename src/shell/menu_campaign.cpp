@@ -1,0 +1,115 @@
+#include "shell/menu_campaign.h"
+
+#include "core/number_text.h"
+#include "scenario/missions.h"
+
+namespace shell {
+
+namespace ui = menu_control;
+namespace timer = menu_timer;
+using scenario::LetterSet;
+
+namespace {
+
+void writeStatus(MenuScreen& menu, int mission) {
+  menu.text(ui::statuslbl)
+      .assign(menu.reachedMission() > mission ? "Status: COMPLETED" : "Status: NOT COMPLETED");
+}
+
+void clearRowBorders(MenuScreen& menu) {
+  for (int k = 0; k < scenario::kMissions; ++k) menu.form()[ui::Label6 + k].border = false;
+}
+
+void writeBriefing(MenuScreen& menu, int mission, LetterSet set) {
+  if (mission == scenario::kCampaignWon) {
+    menu.text(ui::Frame1).assign("CONGRATULATIONS");
+  } else {
+    core::setCaption(menu.text(ui::Frame1), "MISSION ", mission);
+  }
+  menu.text(ui::cpgninfo).assign(scenario::letter(mission, set));
+  menu.text(ui::goalinfo).assign(scenario::briefingGoal(mission, set));
+}
+
+}  // namespace
+
+void showMissions(MenuScreen& menu) {
+  menu.cue(sound::kClick);
+  writeStatus(menu, 1);
+  menu.form().hide(ui::startnew);
+  menu.showPanel(ui::campaign);
+}
+
+void hoverMission(MenuScreen& menu, int row) {
+  clearRowBorders(menu);
+  menu.form()[ui::Label6 + row].border = true;
+  const scenario::Mission& mission = scenario::mission(row + 1);
+  menu.text(ui::difflbl).assign(mission.difficulty);
+  menu.text(ui::mapsizelbl).assign(mission.mapSizeText);
+  menu.text(ui::fertilelbl).assign(mission.fertilityText);
+  writeStatus(menu, row + 1);
+}
+
+void leaveMissionRows(MenuScreen& menu) {
+  clearRowBorders(menu);
+  menu.text(ui::difflbl).assign("Difficulty: ");
+  menu.text(ui::mapsizelbl).assign("Map size: ");
+  menu.text(ui::fertilelbl).assign("Land fertiliy: ");
+  menu.text(ui::statuslbl).assign(menu.reachedMission() > 1 ? "Status:" : "Status: ");
+}
+
+void clickMission(MenuScreen& menu, int row) {
+  menu.cue(sound::kClick);
+  menu.values().selectedMission = row;
+  menu.form().hide(ui::command7);
+  if (row >= 1 && menu.reachedMission() < row + 1) {
+    menu.form().show(ui::command7);
+    menu.timers().enable(timer::Timer1);
+    return;
+  }
+  writeBriefing(menu, row + 1, LetterSet::list);
+  menu.form().hide(ui::campaign);
+  menu.showPanel(ui::Framecpgn);
+}
+
+void cancelMissions(MenuScreen& menu) {
+  menu.cue(sound::kClick);
+  menu.form().hide(ui::command7);
+  menu.form().hide(ui::campaign);
+  menu.showPanel(ui::startnew);
+}
+
+void cancelBriefing(MenuScreen& menu) {
+  menu.cue(sound::kClick);
+  menu.form().hide(ui::Framecpgn);
+  menu.showPanel(ui::campaign);
+}
+
+void playMission(MenuScreen& menu) {
+  core::ProgramValues& values = menu.values();
+  menu.cue(sound::kClick);
+  if (values.selectedMission >= scenario::kMissions) return;  // the closing text
+  const scenario::Mission& mission = scenario::mission(values.selectedMission + 1);
+  values.gMapSize = mission.mapSize;
+  values.gFertility = mission.fertility;
+  values.gMission = mission.number;
+  values.gYear = mission.startYear;
+  menu.form().hide(ui::Framecpgn);
+  menu.showPanel(ui::lblloading);
+  menu.timers().enable(timer::Timer3);
+  values.gContinueMission = 1;
+  values.gNewMap = 0;
+  values.gLoadPending = 0;
+}
+
+void showHomecoming(MenuScreen& menu) {
+  core::ProgramValues& values = menu.values();
+  values.selectedMission = values.gMission.whole() - 1;
+  // After an earlier mission was played again the main panel stands behind the briefing.
+  if (values.gReplayedMission == 1) menu.showPanel(ui::main);
+  writeBriefing(menu, values.selectedMission + 1, LetterSet::homecoming);
+  menu.form().hide(ui::campaign);
+  menu.showPanel(ui::Framecpgn);
+  values.gBackToMenu = 0;
+}
+
+}  // namespace shell

@@ -1,0 +1,283 @@
+#include "shell/menu_controls.h"
+
+#include "scenario/missions.h"
+#include "scenario/puzzles.h"
+
+namespace shell {
+
+namespace {
+
+using namespace menu_control;
+using platform::Align;
+using platform::Color;
+using platform::ControlDesign;
+using platform::ControlKind;
+using platform::FontSize;
+using platform::Heading;
+using platform::kNoParent;
+using platform::kSingle;
+using platform::Rect;
+
+constexpr Color kPanel{140, 179, 242};
+constexpr Color kPlate{203, 221, 241};
+
+// Where panels wait until they are shown.
+constexpr int kParked = 1000;
+
+constexpr ControlDesign panel(const char* name, int width, int height) {
+  return {.name = name,
+          .kind = ControlKind::frame,
+          .place = {kParked, 100, width, height},
+          .back = kPanel,
+          .opaque = true,
+          .border = true,
+          .visible = false};
+}
+constexpr ControlDesign frame(const char* name, int parent, Rect place, Color back = kPlate) {
+  return {.name = name,
+          .kind = ControlKind::frame,
+          .parent = parent,
+          .place = place,
+          .back = back,
+          .opaque = true};
+}
+constexpr ControlDesign group(const char* name, int parent, Rect place, const char* caption) {
+  return {.name = name,
+          .kind = ControlKind::frame,
+          .parent = parent,
+          .place = place,
+          .text = caption,
+          .font = FontSize::pt11,
+          .back = kPlate,
+          .opaque = true,
+          .border = true,
+          .heading = Heading::group};
+}
+// The plain box that lies in a panel, around what it holds.
+constexpr ControlDesign plate(const char* name, int parent, int width, int height) {
+  return {.name = name,
+          .kind = ControlKind::box,
+          .parent = parent,
+          .place = {4, 4, width - 8, height - 8},
+          .back = kPlate,
+          .opaque = true,
+          .border = true};
+}
+constexpr ControlDesign label(const char* name, int parent, Rect place, const char* text,
+                              FontSize font = FontSize::pt11, Align align = Align::left,
+                              int index = kSingle) {
+  return {.name = name,
+          .index = index,
+          .kind = ControlKind::label,
+          .parent = parent,
+          .place = place,
+          .text = text,
+          .font = font,
+          .align = align};
+}
+constexpr ControlDesign button(const char* name, int parent, Rect place, const char* text) {
+  return {.name = name,
+          .kind = ControlKind::button,
+          .parent = parent,
+          .place = place,
+          .text = text,
+          .align = Align::centre,
+          .back = kPlate,
+          .opaque = true};
+}
+constexpr ControlDesign picture(const char* name, int parent, Rect place) {
+  return {
+      .name = name, .kind = ControlKind::image, .parent = parent, .place = place, .image = name};
+}
+constexpr ControlDesign checkBox(const char* name, int parent, Rect place, const char* text) {
+  return {.name = name,
+          .kind = ControlKind::checkBox,
+          .parent = parent,
+          .place = place,
+          .text = text,
+          .back = kPlate};
+}
+
+constexpr std::array<ControlDesign, kCount> makeTable() {
+  std::array<ControlDesign, kCount> t{};
+  // A row of the two panels of buttons: a picture plate, and the label on it.
+  const auto row = [&t](int plateId, const char* plateName, int labelId, const char* labelName,
+                        int parent, int left, int top, const char* text) {
+    t[static_cast<std::size_t>(plateId)] = picture(plateName, parent, {left, top, 155, 33});
+    ControlDesign d =
+        label(labelName, parent, {left + 8, top + 5, 145, 25}, text, FontSize::pt11, Align::centre);
+    d.back = kPlate;
+    d.opaque = true;
+    t[static_cast<std::size_t>(labelId)] = d;
+  };
+
+  t[main] = panel("main", 233, 313);
+  t[mainplate] = plate("mainplate", main, 233, 313);
+  t[Frame22] = frame("Frame22", main, {8, 8, 217, 73}, kPanel);
+  t[Frame22].border = true;
+  t[Label39] =
+      label("Label39", Frame22, {8, 12, 201, 26}, "VELLMORAN", FontSize::pt14, Align::centre, 0);
+  t[Label39 + 1] =
+      label("Label39", Frame22, {8, 40, 201, 18}, "Royal Edition", FontSize::pt9, Align::centre, 1);
+  row(Picture1, "Picture1", mainnew, "mainnew", main, 40, 96, "NEW GAME");
+  row(Picture2, "Picture2", mainload, "mainload", main, 40, 136, "LOAD GAME");
+  row(Picture5, "Picture5", mainhelp, "mainhelp", main, 40, 176, "DEMO GAME");
+  row(ivir, "ivir", maincredits, "maincredits", main, 40, 216, "CREDITS");
+  row(Picture3, "Picture3", mainquit, "mainquit", main, 40, 256, "EXIT GAME");
+
+  t[startnew] = panel("startnew", 233, 337);
+  t[startplate] = plate("startplate", startnew, 233, 337);
+  t[Frame7] = frame("Frame7", startnew, {24, 24, 185, 289});
+  row(Picture6, "Picture6", stcampaign, "stcampaign", Frame7, 16, 8, "CAMPAIGN");
+  row(Picture9, "Picture9", stpuzzle, "stpuzzle", Frame7, 16, 48, "PUZZLE PLAY");
+  row(Picture7, "Picture7", stopen, "stopen", Frame7, 16, 88, "OPEN PLAY");
+  t[Label4] = label("Label4", Frame7, {24, 136, 137, 97}, "", FontSize::pt9);
+  row(Picture8, "Picture8", stback, "stback", Frame7, 16, 248, "BACK TO MAIN");
+
+  t[campaign] = panel("campaign", 585, 441);
+  t[campaignplate] = plate("campaignplate", campaign, 585, 441);
+  t[Frame6] = frame("Frame6", campaign, {32, 16, 521, 32}, kPanel);
+  t[Frame6].border = true;
+  t[campaigntitle] = label("campaigntitle", Frame6, {8, 4, 505, 24}, "CAMPAIGN MISSIONS",
+                           FontSize::pt14, Align::centre);
+  t[Command1] = {.name = "Command1",
+                 .kind = ControlKind::box,
+                 .parent = campaign,
+                 .place = {24, 56, 320, 345},
+                 .back = kPanel,
+                 .opaque = true,
+                 .border = true};
+  t[Frame9] = frame("Frame9", campaign, {32, 64, 305, 329});
+  for (int k = 0; k < 10; ++k) {
+    t[static_cast<std::size_t>(Label6 + k)] =
+        label("Label6", Frame9, {32, 8 + 32 * k, 257, 25}, "", FontSize::pt11, Align::left, k);
+  }
+  t[mission] = group("mission", campaign, {344, 64, 201, 129}, "MISSION DETAILS:");
+  t[difflbl] = label("difflbl", mission, {8, 24, 187, 20}, "Difficulty: ");
+  t[mapsizelbl] = label("mapsizelbl", mission, {8, 48, 187, 20}, "Map size: ");
+  t[fertilelbl] = label("fertilelbl", mission, {8, 72, 187, 20}, "Land fertiliy: ");
+  t[statuslbl] = label("statuslbl", mission, {8, 96, 187, 20}, "Status: ");
+  t[campaignback] = button("campaignback", campaign, {376, 280, 153, 33}, "Cancel");
+
+  t[Framecpgn] = panel("Framecpgn", 481, 417);
+  t[briefingplate] = plate("briefingplate", Framecpgn, 481, 417);
+  t[Frame1] = group("Frame1", Framecpgn, {24, 24, 433, 241}, "");
+  t[cpgninfo] = label("cpgninfo", Frame1, {16, 28, 401, 201}, "");
+  t[Frame5] = group("Frame5", Framecpgn, {24, 272, 433, 73}, "GOALS");
+  t[goalinfo] = label("goalinfo", Frame5, {16, 24, 401, 41}, "");
+  t[Command11] = button("Command11", Framecpgn, {136, 360, 97, 29}, "Cancel");
+  t[Command14] = button("Command14", Framecpgn, {256, 360, 97, 29}, "Play");
+
+  t[Frame15] = panel("Frame15", 521, 441);
+  t[puzzleplate] = plate("puzzleplate", Frame15, 521, 441);
+  t[Frame16] = frame("Frame16", Frame15, {24, 24, 465, 385}, kPanel);
+  t[Frame16].border = true;
+  t[Label19] = label("Label19", Frame16, {8, 6, 449, 26}, "PUZZLE PLAY MISSIONS", FontSize::pt14,
+                     Align::centre);
+  t[Label21] = label("Label21", Frame16, {20, 36, 425, 38},
+                     " It is strongly recommended that you complete the campaign before starting "
+                     "puzzle missions");
+  t[Frame17] = frame("Frame17", Frame16, {24, 80, 425, 241});
+  t[Frame17].border = true;
+  t[Label22] = label("Label22", Frame17, {8, 16, 409, 20},
+                     "(The missions are ranked according to their difficulty)", FontSize::pt9,
+                     Align::centre);
+  constexpr const char* kMarks[] = {"Picture10", "Picture11", "Picture12", "Picture13",
+                                    "Picture14", "Picture15", "Picture16", "Picture17",
+                                    "Picture18", "Picture19"};
+  for (int k = 0; k < 10; ++k) {
+    const int left = k < 5 ? 56 : 232;
+    const int top = 56 + 32 * (k % 5);
+    t[static_cast<std::size_t>(Label20 + k)] =
+        label("Label20", Frame17, {left, top, 145, 25}, "", FontSize::pt11, Align::centre, k);
+    t[static_cast<std::size_t>(Picture10 + k)] = {.name = kMarks[k],
+                                                  .kind = ControlKind::image,
+                                                  .parent = Frame17,
+                                                  .place = {left + 24, top + 8, 12, 10}};
+  }
+  t[Picture20] = picture("Picture20", Frame17, {8, 216, 12, 10});
+  t[Picture20].visible = false;
+  t[Picture21] = picture("Picture21", Frame17, {24, 216, 7, 7});
+  t[Picture21].visible = false;
+  t[Command23] = button("Command23", Frame16, {200, 344, 89, 33}, "Cancel");
+
+  t[openplay] = panel("openplay", 321, 329);
+  t[openplate] = plate("openplate", openplay, 321, 329);
+  t[Frame3] = group("Frame3", openplay, {32, 32, 121, 105}, "Map size:");
+  t[Check3] = checkBox("Check3", Frame3, {16, 24, 97, 20}, "Small ");
+  t[Check1] = checkBox("Check1", Frame3, {16, 48, 97, 20}, "Medium");
+  t[Check2] = checkBox("Check2", Frame3, {16, 72, 97, 20}, "Large ");
+  t[Frame4] = group("Frame4", openplay, {168, 32, 121, 105}, "Land fertility:");
+  t[Check6] = checkBox("Check6", Frame4, {16, 24, 97, 20}, "Bad");
+  t[Check5] = checkBox("Check5", Frame4, {16, 48, 97, 20}, "Normal");
+  t[Check4] = checkBox("Check4", Frame4, {16, 72, 97, 20}, "Good");
+  t[Frame12] = group("Frame12", openplay, {32, 144, 257, 57}, "Starting money:");
+  t[Check7] = checkBox("Check7", Frame12, {16, 24, 72, 20}, "Low");
+  t[Check8] = checkBox("Check8", Frame12, {96, 24, 84, 20}, "Normal");
+  t[Check9] = checkBox("Check9", Frame12, {184, 24, 68, 20}, "High");
+  t[Frame2] = frame("Frame2", openplay, {24, 216, 273, 81});
+  t[openplaydiff] = label("openplaydiff", Frame2, {56, 8, 209, 24}, "Overall difficulty:100%");
+  t[openback] = button("openback", Frame2, {16, 48, 113, 33}, "Cancel ");
+  t[opengo] = button("opengo", Frame2, {144, 48, 113, 33}, "Play ");
+
+  t[Frame10] = panel("Frame10", 393, 369);
+  t[creditsplate] = plate("creditsplate", Frame10, 393, 369);
+  t[Frame11] = frame("Frame11", Frame10, {24, 24, 345, 321});
+  t[creditstitle] = label("creditstitle", Frame11, {16, 0, 305, 25}, "VELLMORAN CREDITS",
+                          FontSize::pt14, Align::centre);
+  t[designby] = label("designby", Frame11, {64, 32, 225, 25},
+                      "Game design and programming by:", FontSize::pt9, Align::centre);
+  t[designname] = label("designname", Frame11, {72, 56, 185, 25}, "the Vellmoran team",
+                        FontSize::pt12, Align::centre);
+  t[musicby] =
+      label("musicby", Frame11, {136, 96, 65, 25}, "Music by:", FontSize::pt9, Align::centre);
+  t[musicname] = label("musicname", Frame11, {32, 120, 265, 25}, "the Vellmoran team",
+                       FontSize::pt12, Align::centre);
+  t[musicaddress] = label("musicaddress", Frame11, {16, 144, 297, 17},
+                          "played by the instruments of the village", FontSize::pt9, Align::centre);
+  t[graphicsby] = label("graphicsby", Frame11, {128, 176, 89, 25}, "Graphics by:", FontSize::pt9,
+                        Align::centre);
+  t[graphicsname] = label("graphicsname", Frame11, {32, 200, 281, 25}, "the Vellmoran team",
+                          FontSize::pt12, Align::centre);
+  t[homepage] =
+      label("homepage", Frame11, {0, 240, 73, 25}, "Homepage:", FontSize::pt9, Align::right);
+  t[homepageaddress] = label("homepageaddress", Frame11, {80, 240, 257, 25},
+                             "README.md, in the program's folder", FontSize::pt9);
+  t[contact] =
+      label("contact", Frame11, {16, 264, 57, 25}, "Contact:", FontSize::pt9, Align::right);
+  t[contactaddress] =
+      label("contactaddress", Frame11, {80, 264, 169, 25}, "the Vellmoran team", FontSize::pt9);
+  t[Command18] = button("Command18", Frame11, {144, 296, 57, 25}, "Ok");
+
+  t[command7] = label("command7", kNoParent, {248, 536, 321, 49},
+                      "Complete the previous missions first", FontSize::pt11, Align::centre);
+  t[command7].back = kPanel;
+  t[command7].opaque = true;
+  t[command7].border = true;
+  t[command7].visible = false;
+  t[lblloading] = label("lblloading", kNoParent, {kParked, 263, 281, 73},
+                        "Please wait while loading...", FontSize::pt12, Align::centre);
+  t[lblloading].back = kPanel;
+  t[lblloading].opaque = true;
+  t[lblloading].border = true;
+  t[lblloading].visible = false;
+  return t;
+}
+
+constexpr std::array<ControlDesign, kCount> kTable = makeTable();
+
+constexpr bool everyRowFilled() {
+  for (const ControlDesign& row : kTable) {
+    if (row.name == nullptr) return false;
+  }
+  return true;
+}
+static_assert(everyRowFilled());
+
+}  // namespace
+
+std::span<const ControlDesign> menuControls() {
+  return kTable;
+}
+
+}  // namespace shell

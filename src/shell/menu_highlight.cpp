@@ -1,0 +1,97 @@
+#include "shell/menu_highlight.h"
+
+#include <span>
+
+#include "shell/menu_campaign.h"
+#include "shell/menu_puzzles.h"
+#include "shell/program.h"
+
+namespace shell {
+
+namespace ui = menu_control;
+
+namespace {
+
+constexpr platform::Color kRowGround{203, 221, 241};
+constexpr platform::Color kLitGround{225, 238, 253};
+
+/// A row and the band of the screen, bounds included, in which it lights. The bands are constants of
+/// the layout; they do not follow the panels.
+struct Band {
+  int row;
+  int top;
+  int bottom;
+};
+constexpr int kBandLeft = 330;
+constexpr int kBandRight = 470;
+constexpr Band kMainBands[] = {{ui::mainnew, 241, 264},
+                               {ui::mainload, 281, 304},
+                               {ui::mainhelp, 321, 344},
+                               {ui::maincredits, 361, 384},
+                               {ui::mainquit, 401, 424}};
+constexpr Band kStartBands[] = {{ui::stcampaign, 169, 189},
+                                {ui::stpuzzle, 209, 229},
+                                {ui::stopen, 249, 269},
+                                {ui::stback, 409, 429}};
+
+struct Hint {
+  int row;
+  const char* text;
+};
+constexpr Hint kHints[] = {
+    {ui::stcampaign,
+     " In the campaign mode you are offered ten missions with increasing difficulty"},
+    {ui::stopen,
+     "In the open play mode, there are no specific goals to be met,you can build your city as you "
+     "like"},
+    {ui::stpuzzle, "This is a funny but difficult mode,consists of ten challenging missions"},
+    {ui::stback, "Back to main menu"},
+    {ui::Frame7, ""},
+};
+
+void highlight(MenuScreen& menu, std::span<const Band> bands, int& lastRow) {
+  const platform::Point pointer = menu.program().desk().pointer();
+  lastRow = 0;
+  int number = 0;
+  for (const Band& band : bands) {
+    ++number;
+    platform::Color& color = menu.form()[band.row].fore;
+    const bool lit = pointer.x >= kBandLeft && pointer.x <= kBandRight && pointer.y >= band.top &&
+                     pointer.y <= band.bottom;
+    if (!lit) {
+      color = platform::kBlack;
+      continue;
+    }
+    lastRow = number;
+    if (color == platform::kYellow) continue;
+    color = platform::kYellow;
+    if (menu.values().gSoundOn == 1) menu.cue(sound::kTool);
+  }
+}
+
+}  // namespace
+
+void moveOverMenu(MenuScreen& menu, int control) {
+  platform::Form& form = menu.form();
+  for (const Band& row : kMainBands) {
+    if (row.row != control) continue;
+    for (const Band& other : kMainBands) {
+      form[other.row].back = other.row == control ? kLitGround : kRowGround;
+    }
+  }
+  for (const Hint& hint : kHints) {
+    if (hint.row == control) menu.text(ui::Label4).assign(hint.text);
+  }
+  if (control >= ui::Label6 && control < ui::Label6 + 10) hoverMission(menu, control - ui::Label6);
+  if (control == ui::Frame9 || control == ui::Command1) leaveMissionRows(menu);
+  if (control >= ui::Label20 && control < ui::Label20 + 10) {
+    hoverPuzzle(menu, control - ui::Label20);
+  }
+}
+
+void highlightTick(MenuScreen& menu) {
+  if (menu.form()[ui::main].visible) highlight(menu, kMainBands, menu.mainHoverRow);
+  if (menu.form()[ui::startnew].visible) highlight(menu, kStartBands, menu.startHoverRow);
+}
+
+}  // namespace shell
