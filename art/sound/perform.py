@@ -27,9 +27,11 @@ class Performance:
         self.score = score
         self.notes, self.expression, self.spans = [], [], []
         self.bar, self.level = 0, {}
-        for section in score.sections:
+        for section, after in zip(score.sections, score.sections[1:] + [None]):
+            self.next_chord = after.chord_at(0, 0)[0] if after else None
             self._section(section)
         self.bars = self.bar
+        self._last_fade()
         self._tempo()
         self._deviate()
         self._fit_length()
@@ -210,7 +212,7 @@ class Performance:
             if bar < len(section.chords):
                 target_class = section.chord_at(bar, next_beat)[0].bass
             else:
-                target_class = chord.bass
+                target_class = (self.next_chord or chord).bass
             target = self._near(target_class, part, last)
             if last is not None and target != last:
                 side = -1 if target > last else 1
@@ -282,6 +284,15 @@ class Performance:
 
     def _express(self, part, at, value):
         self.expression.append((part, at, int(min(127, value * self.level[part]))))
+
+    def _last_fade(self):
+        """The last bar dies away, whatever its parts were swelling to."""
+        start = (self.bars - 1) * self.score.beats
+        self.expression = [e for e in self.expression if e[1] < start]
+        for part in {row['part'].name: row['part'] for row in self.score.sections[-1].rows}.values():
+            for i in range(16):
+                x = i / 15
+                self._express(part, start + x * self.score.beats * .97, EXPRESSION * (1 - .7 * x * x))
 
     # --- time -----------------------------------------------------------------------
 
