@@ -170,6 +170,10 @@ Point SdlDisplay::pictured(Point inWindow) const {
   return scaler_ == nullptr ? inWindow : scaler_->pictured(inWindow);
 }
 
+bool SdlDisplay::inWindow(Point point) const {
+  return Rect{0, 0, windowSize_.width, windowSize_.height}.contains(point);
+}
+
 void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> changed) {
   if (window_ == nullptr) return;
   SDL_Surface* const surface = SDL_GetWindowSurface(window_);
@@ -223,6 +227,7 @@ void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> chang
 
 void SdlDisplay::message(const char* title, const char* text) {
   std::fprintf(stderr, "%s: %s\n", title, text);
+  const Hush hush;
   SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, title, text, window_);
 }
 

@@ -36,6 +36,7 @@ class SdlDisplay : public Display {
   void rearrange();
   /// The framebuffer pixel at a point of the window.
   Point pictured(Point inWindow) const;
+  bool inWindow(Point point) const;
 
  private:
   bool startVideo();

@@ -13,8 +13,12 @@ namespace platform {
 
 namespace {
 
-// How far from the rim a pointer counts that has left the window, so that it scrolls nothing.
-constexpr int kRest = 16;
+// A pointer that has left the window counts as a little way off the rim, so that it scrolls nothing.
+Point rested(Point point) {
+  constexpr int kRest = 16;
+  return {std::clamp(point.x, kRest, kScreenWidth - 1 - kRest),
+          std::clamp(point.y, kRest, kScreenHeight - 1 - kRest)};
+}
 
 bool keyOf(SDL_Keycode code, Key& key) {
   switch (code) {
@@ -65,7 +69,9 @@ bool SdlEvents::translate(const SDL_Event& event, Event& into) {
   into = {};
   switch (event.type) {
     case SDL_MOUSEMOTION:
+      // With a button held the moves go on beyond the window.
       last_ = display_.pictured({event.motion.x, event.motion.y});
+      if (!display_.inWindow({event.motion.x, event.motion.y})) last_ = rested(last_);
       if (moreMotionWaits()) return false;
       into.kind = EventKind::pointer;
       into.point = last_;
@@ -119,10 +125,8 @@ bool SdlEvents::translateWindow(const SDL_Event& event, Event& into) {
       return true;
     case SDL_WINDOWEVENT_LEAVE:
       into.kind = EventKind::pointer;
-      last_.x = std::clamp(last_.x, kRest, kScreenWidth - 1 - kRest);
-      last_.y = std::clamp(last_.y, kRest, kScreenHeight - 1 - kRest);
-      into.point = last_;
-      return held_ == 0;
+      into.point = last_ = rested(last_);
+      return true;
     default:
       return false;
   }
