@@ -5,7 +5,7 @@
 #include "kit.inc"
 Ground()
 Cobbles(0.03, 0.03, 0.97, 0.97, 0.085, C("DAD5C8"), 130)
-#declare White = C("FBF9F2"); #declare Roof = C("B9C1CB"); #declare Green = C("1F8F52");
+#declare White = C("FBF9F2"); #declare Roof = C("B9C1CB"); #declare Green = C("22A85C");
 #declare X0 = 0.10; #declare Y0 = 0.10; #declare X1 = 0.84; #declare Y1 = 0.58; #declare H = 0.44;
 #declare Gx0 = 0.22; #declare Gx1 = 0.66; #declare Gy = 0.70; #declare Gm = (Gx0+Gx1)/2;
 box { <X0-0.02, Y0-0.02, 0>, <X1+0.02, Y1+0.02, 0.05> mPlain(C("AEB3B8")) }
@@ -17,8 +17,8 @@ GableRoof(X0, Y0, X1, Y1, H, 0.30, 0, 0.045, Roof, 0.11, 131)
 GableWall(Gx0, 0.34, Gx1, Gy, H, 0.28, 1, White)
 GableRoof(Gx0, 0.34, Gx1, Gy, H, 0.28, 1, 0.04, Roof, 0.11, 132)
 // the cross, over the door
-box { <Gm-0.028, Gy, 0.38>, <Gm+0.028, Gy+0.03, 0.58> mPlain(Green) }
-box { <Gm-0.095, Gy, 0.452>, <Gm+0.095, Gy+0.03, 0.508> mPlain(Green) }
+box { <Gm-0.032, Gy, 0.36>, <Gm+0.032, Gy+0.03, 0.57> mPlain(Green) }
+box { <Gm-0.11, Gy, 0.44>, <Gm+0.11, Gy+0.03, 0.50> mPlain(Green) }
 Door(<Gm, Gy, 0.01>, x, 0.12, 0.25, C("4A7F9E"))
 Window(<Gm-0.155, Gy, 0.13>, x, 0.055, 0.12, 0, White)
 Window(<Gm+0.155, Gy, 0.13>, x, 0.055, 0.12, 0, White)

@@ -28,7 +28,7 @@ Door(<X0+0.56, Y1, 0.02>, x, 0.17, 0.29, cBeamDark)
 Window(<X0+0.22, Y1, 0.12>, x, 0.13, 0.14, 0, Gn)
 Window(<X0+0.90, Y1, 0.12>, x, 0.13, 0.14, 0, Gn)
 Window(<X1, 0.62, 0.12>, -y, 0.13, 0.14, 0, Gn)
-Chimney(<0.56, 0.46, H+0.18>, 0.13, 0.34)
+Chimney(<0.62, 0.50, H+0.16>, 0.13, 0.30)
 // sign: a mug on a board, hung from a post beside the door
 #declare Sx = 0.74; #declare Sy = 1.30;
 cylinder { <Sx,Sy,0>, <Sx,Sy,0.52>, 0.022 mPlain(cBeam) }

@@ -42,17 +42,17 @@ class Meadow:
         u, v = cell_uv()
         rim = np.clip(np.minimum(np.minimum(u, 1 - u), np.minimum(v, 1 - v)) / .3, 0, 1)
         mot = torus_noise(4, seed + 50) * .65 + torus_noise(9, seed + 60) * .35 - .5
-        self.t = 2.45 + mottle * mot * rim + r.randn(32, 64) * .36 - dark * (.35 + .65 * rim)
+        self.t = 2.45 + mottle * mot * rim + r.randn(32, 64) * .30 - dark * (.35 + .65 * rim)
         for _ in range(tufts):                   # little V-shaped blades
             x, y = r.randint(0, 64), r.randint(0, 32)
-            top = r.uniform(3.3, 4.7) - dark
+            top = r.uniform(3.1, 4.3) - dark
             self.put(x, y, top)
             self.put(x, y + 1, top - 1.1)
             if r.rand() < .6:
                 self.put(x + r.choice([-1, 1]), y + 1, top - .4)
-            self.put(x + 1, y + 2, .8 + r.rand() * .5)    # its shade, lower right
+            self.put(x + 1, y + 2, 1.15 + r.rand() * .5)    # its shade, lower right
             if r.rand() < .5:
-                self.put(x, y + 2, 1.2)
+                self.put(x, y + 2, 1.5)
 
     def put(self, px, py, val):
         x, y = wrap(px, py)
@@ -109,8 +109,9 @@ def clover():
 
 def heath():
     """Taller, darker growth: the border of the square, clumps in the meadow."""
-    m = Meadow(13, 96, dark=.75, mottle=1.9).colours()
-    for x, y, rad in ((32, 6.5, 2.6), (19, 14, 3.1), (44, 13, 2.4), (30, 17, 2.2), (27, 25, 2.7), (43, 21, 3.0), (10, 16, 1.7), (54, 17, 1.8)):
+    m = Meadow(13, 96, dark=.95, mottle=1.9).colours()
+    for x, y, rad in ((32, 6.5, 2.8), (19, 13.5, 3.4), (44, 12.5, 2.6), (31, 16.5, 2.5), (26, 24.5, 3.0), (42, 20.5, 3.3),
+                      (9, 16, 1.9), (55, 17, 2.0), (35, 27, 1.8), (24, 9, 1.7)):
         m.shrub(x, y, rad)
     return m.flowers(4, ['c9a6dd', 'e6d26a'], 15).done()
 

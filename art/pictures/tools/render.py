@@ -97,19 +97,22 @@ def samples_pov(name, kind, opts):
     lit0 = open_light()
     beauty = pov(name, tag, 0, w, h, ox, oy, extra) * 2     # lights are halved
     aux = pov(name, tag, 1, w, h, ox, oy, extra)
-    return beauty, aux[..., 0] * 12, (aux[..., 1] > .5).astype(float), lit0
+    depth, flags = aux[..., 0] * 12, aux[..., 1]
+    if 'own' in opts:       # parts that belong to a neighbour are seen but not kept
+        flags = pov(name, tag, 1, w, h, ox, oy, opts['own'])[..., 1]
+    return beauty, depth, (flags > .5).astype(float), lit0
 
 
 def spill(name, kind, opts, mask):
-    """How many pixels of the model fall outside its pictures: a quick look at
-    the object flags on a canvas with a wide rim."""
+    """Pixels (x, y) of the model that fall outside its pictures: a quick look
+    at the object flags on a canvas with a wide rim."""
     w, h, ox, oy, n, table = KINDS[kind]
     m, ss = 48, 4
     aux = pov(name, opts.get('as', name) + '_rim', 1, w + 2 * m, h + 2 * m, ox + m, oy + m,
-              opts.get('declare', ()), ss)
-    out = box_down((aux[..., 1] > .5).astype(float), ss) >= .5
+              opts.get('own', opts.get('declare', ())), ss)
+    out = box_down((aux[..., 1] > .5).astype(float), ss) > .7
     out[m:-m, m:-m] &= ~mask
-    return int(out.sum())
+    return [(int(x) - m, int(y) - m) for y, x in zip(*np.nonzero(out))]
 
 
 def footprint(w, h, ox, oy, n):
@@ -181,5 +184,5 @@ def finish(name, kind, opts):
     lost = spill(name, kind, opts, mask)
     img = rgba(np.where(foot[..., None], comp, col), mask)
     print('   %-10s %5.1f s%s' % (opts.get('as', name), time.time() - t0,
-          ', %d pixels of the model fall outside' % lost if lost else ''), flush=True)
+          ', outside the picture: %s' % lost if lost else ''), flush=True)
     return img, table

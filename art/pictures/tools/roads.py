@@ -24,7 +24,7 @@ STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
 EDGES = np.array([e for e, _ in PROFILE])
-SILL = to_lin(rgb('c4b9a2'))
+SILL = to_lin(rgb('cdc3ab'))
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
@@ -121,7 +121,7 @@ def junction():
         along = np.where(du < dv, v, u)
         edge = np.minimum(du, dv)
         walked = (u > .5) & (du < dv) & (v < .30)
-        return (edge > .015) & (edge < .075) & (along > .17) & (along < .83) & ~walked, along
+        return (edge > .02) & (edge < .075) & (along > .17) & (along < .83) & ~walked, along
 
     def paint(u, v):
         out = np.zeros(u.shape + (3,))
@@ -130,8 +130,8 @@ def junction():
             a, b = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
             out[here] = shaded(a, b, cu, cv, .5)[here]
         stone, along = sill(u, v)
-        stones = SILL * np.where((along * 12) % 1 < .16, .62, 1)[..., None]
-        return np.where(stone[..., None], out * .45 + stones * .55, out)
+        stones = SILL * np.where((along * 12) % 1 < .14, .72, 1)[..., None]
+        return np.where(stone[..., None], out * .22 + stones * .78, out)
 
     img = rgba(to_srgb(supersampled(paint)), diamond_mask())
     u, v = cell_uv()
