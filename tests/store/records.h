@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -16,10 +15,8 @@ inline std::unique_ptr<store::Record> newGame() {
   auto record = std::make_unique<store::Record>();
   record->values.gStartMoney = 2;
   core::resetGame(record->game, record->values);
-  record->values.gMission = 1;
-  record->values.gMapSize = 18;
-  record->values.gFertility = 1.2;
-  record->values.gYear = 1715;
+  record->values.gMission = 1, record->values.gMapSize = 18;
+  record->values.gFertility = 1.2, record->values.gYear = 1715;
   return record;
 }
 
@@ -29,48 +26,37 @@ inline std::string textOf(const store::Record& record) {
   return text;
 }
 
-using Lines = std::vector<std::vector<std::string>>;
-
-/// The fields of each line; what stands behind the last line feed is a line too, mostly empty.
-inline Lines split(const std::string& text) {
-  Lines lines(1, std::vector<std::string>(1));
-  for (const char c : text) {
-    if (c == '\n') {
-      lines.emplace_back(1);
-    } else if (c == ',') {
-      lines.back().emplace_back();
-    } else if (c != '\r') {
-      lines.back().back() += c;
-    }
-  }
-  lines.pop_back();
-  return lines;
-}
-
-inline std::string join(const Lines& lines, const std::string& end = "\r\n") {
-  std::string text;
-  for (const auto& line : lines) {
-    for (std::size_t n = 0; n < line.size(); ++n) (text += n > 0 ? "," : "") += line[n];
-    text += end;
-  }
-  return text;
-}
-
-inline std::string line(const Lines& lines, int number) {
-  std::string text = join({lines.at(static_cast<std::size_t>(number - 1))}, "");
-  return text;
-}
-
-/// The record with one field replaced, counted from 1 as messages count.
-inline std::string withField(Lines lines, int line, int field, const std::string& value) {
-  lines.at(static_cast<std::size_t>(line - 1)).at(static_cast<std::size_t>(field - 1)) = value;
-  return join(lines);
-}
-
 /// Empty when the text is a sound record.
 inline std::string faultOf(const std::string& text, store::Record& into) {
   std::string error;
   return store::parseRecord(text, into, error) ? "" : error;
+}
+
+/// The pieces of a text in which `end` stands behind each piece.
+inline std::vector<std::string> split(const std::string& text, const std::string& end = "\r\n") {
+  std::vector<std::string> pieces;
+  for (std::size_t at = 0, next; (next = text.find(end, at)) != std::string::npos;
+       at = next + end.size()) {
+    pieces.push_back(text.substr(at, next - at));
+  }
+  return pieces;
+}
+
+inline std::string join(const std::vector<std::string>& pieces, const std::string& end = "\r\n") {
+  std::string text;
+  for (const std::string& piece : pieces) text += piece + end;
+  return text;
+}
+
+/// The record with one field replaced; line and field are counted from 1 as in messages.
+inline std::string withField(std::vector<std::string> lines, int line, int field,
+                             const std::string& value) {
+  std::string& changed = lines.at(static_cast<std::size_t>(line - 1));
+  auto fields = split(changed + ",", ",");
+  fields.at(static_cast<std::size_t>(field - 1)) = value;
+  changed = join(fields, ",");
+  changed.pop_back();
+  return join(lines);
 }
 
 }  // namespace support
