@@ -93,7 +93,7 @@ class Painting : public Toolkit {
 };
 
 TEST_F(Painting, WhatIsPaintedStepByStepEqualsAWholePaint) {
-  for (int step = 0; step < 700; ++step) {
+  for (int step = 0; step < 300; ++step) {
     for (int i = roll(1, 3); i > 0; --i) change();
     const Surface before = screen_.clone();
     const DamageList& changed = painter_.paint(screen_, desk_, now_);
