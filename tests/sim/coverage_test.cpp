@@ -92,47 +92,20 @@ TEST(Flood, DoesExactlyWhatThePlainRuleDoes) {
 }
 
 TEST(Flood, RunsAnyWayWithTheScanAndTwelveCellsAgainstIt) {
-  City against;
-  against.road(2, 10, 21, 10);
-  against.block(core::kMarketCode, 22, 10);
-  against.rebuild();
-  EXPECT_EQ(against.count(against.game.roadService[kMarket]), 13);
-  against.rebuild();
-  EXPECT_EQ(against.count(against.game.roadService[kMarket]), 20);
-
-  City with;
-  with.block(core::kMarketCode, 2, 10);
-  with.road(4, 11, 23, 11);
-  with.rebuild();
-  EXPECT_EQ(with.count(with.game.roadService[kMarket]), 20);
-}
-
-TEST(Flood, AsksForTheAreaAndARoadOfTheSameNetwork) {
   City city;
-  city.block(core::kMarketCode, 10, 10);
-  city.road(12, 9, 14, 9);  // meets the market at a corner only
-  city.block(core::kResidenceCode, 13, 10);
+  city.road(2, 10, 21, 10);
+  city.block(core::kMarketCode, 22, 10);
   city.rebuild();
-  EXPECT_EQ(city.count(city.game.roadService[kMarket]), 0);
-  EXPECT_EQ(city.game.marketCover(13, 10), 1);
-  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 0);
-
-  city.road(12, 10, 12, 10);
+  EXPECT_EQ(city.count(city.game.roadService[kMarket]), 13);
   city.rebuild();
-  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 4);
-  EXPECT_EQ(city.game.cellServices(14, 11), 1);
-
-  // What is set once stays, whatever becomes of the market, until the layer is cleared.
-  for (int n = 0; n < 4; ++n) city.game.tileCode(10 + n % 2, 10 + n / 2) = 0;
+  EXPECT_EQ(city.count(city.game.roadService[kMarket]), 20);
+  city.road(24, 9, 24, 29);  // meets the market's side at (24, 10)
+  city.road(12, 9, 12, 9);
   city.rebuild();
-  EXPECT_EQ(city.game.marketCover(13, 10), 0);
-  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 4);
-  clearLayer(city.game, kMarket);
-  city.rebuild();
-  EXPECT_EQ(city.game.cellServices(14, 11), 0);
+  EXPECT_EQ(city.count(city.game.roadService[kMarket]), 42);
 }
 
-TEST(Flood, APressServesThePlacedBlockByItsFarCell) {
+TEST(Flood, APressServesThePlacedBlockByItsFarCellUntilTheLayerIsCleared) {
   City city;
   city.block(core::kMarketCode, 10, 10);  // reaches x 16
   city.road(12, 8, 12, 10);
@@ -141,52 +114,39 @@ TEST(Flood, APressServesThePlacedBlockByItsFarCell) {
   city.block(core::kResidenceCode, 16, 10);  // its column 17 touches the road, 16 is covered
   city.game.cellX = 16;
   city.game.cellY = 10;
-  city.rebuild(FloodCause::press);
-  city.game.lastPaletteTool = core::kResidenceTool;
-  city.rebuild(FloodCause::other);
-  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 0);
-  GameState earlier = city.game;
-  city.rebuild(FloodCause::press);
-  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 4);
-
-  // The step comes before the seeding: it sees only what roads carried before.
-  for (int k = 1; k <= 5; ++k) clearLayer(city.game, k);
-  city.rebuild(FloodCause::press);
-  EXPECT_EQ(city.count(city.game.cellService[kMarket]), 0);
-
-  // Nobody asks what stands there: a road laid at (15, 10) has the empty land beside it served.
-  city.game = earlier;
+  const auto served = [&](FloodCause cause, int lastTool) {
+    city.game.lastPaletteTool = lastTool;
+    city.rebuild(cause);
+    return city.count(city.game.cellService[kMarket]);
+  };
+  EXPECT_EQ(served(FloodCause::press, 8), 0);
+  EXPECT_EQ(served(FloodCause::other, 1), 0);
+  EXPECT_EQ(served(FloodCause::press, 1), 4);
+  EXPECT_EQ(served(FloodCause::other, 8), 4);
+  clearLayer(city.game, kMarket);
+  EXPECT_EQ(served(FloodCause::press, 1), 0);  // the step sees only what roads carried before
   for (int n = 0; n < 4; ++n) city.game.tileCode(16 + n % 2, 10 + n / 2) = 0;
-  city.rebuild(FloodCause::press);
-  EXPECT_EQ(city.game.cellService[kMarket](17, 11), 1);
+  EXPECT_EQ(served(FloodCause::press, 1), 4);  // nobody asks what stands there
 }
 
 TEST(Coverage, EachCellOfABuildingCastsItsSquare) {
-  constexpr int kAreas[] = {144, 196, 100, 144, 81};
-  constexpr int kCodes[] = {21, 31, 41, 51, 6};
-  for (int k = 1; k <= 5; ++k) {
-    City city;
-    if (k == kDoctor) {
-      city.single(6, 1, 29);
-    } else {
-      city.block(kCodes[k - 1], 1, 28);
-    }
-    city.rebuild();
-    for (int other = 1; other <= 5; ++other) {
-      EXPECT_EQ(city.count(core::coverGrid(city.game, other)), other == k ? kAreas[k - 1] : 0);
-    }
-  }
   City city;
   city.block(core::kMarketCode, 10, 10);
+  city.block(core::kSchoolCode, 1, 1);
+  city.block(core::kTavernCode, 28, 28);
+  city.block(core::kChurchCode, 20, 4);
+  city.single(core::kDoctorCode, 4, 20);
   city.rebuild();
+  constexpr int kAreas[] = {144, 196, 100, 144, 81};
+  for (int k = 1; k <= 5; ++k) {
+    EXPECT_EQ(city.count(core::coverGrid(city.game, k)), kAreas[k - 1]);
+  }
   EXPECT_EQ(city.game.marketCover(5, 16) + city.game.marketCover(16, 5), 2);
-  EXPECT_EQ(city.game.marketCover(4, 10) + city.game.marketCover(10, 17), 0);
 
-  // Damaged cities stand up to the rim of the tables: nothing is written beside them.
+  // What stands at the rim of the tables writes nothing beside them.
   city.block(core::kSchoolCode, 34, 34);
   city.rebuild();
-  EXPECT_EQ(city.game.schoolCover(39, 39), 1);
-  EXPECT_EQ(city.count(city.game.schoolCover), 12 * 12);
+  EXPECT_EQ(city.count(city.game.schoolCover), 196 + 12 * 12);
 }
 
 TEST(Capacity, FollowsServicesTaxAndFood) {
@@ -214,40 +174,35 @@ TEST(Capacity, FollowsServicesTaxAndFood) {
 
 TEST(Evolution, ThresholdsAreStrictAndThePoorestCellDecides) {
   City city;
-  GameState& g = city.game;
+  core::GameState& g = city.game;
   city.block(core::kResidenceCode, 5, 5);
-  const auto imageAt = [&](int services, int tax) {
+  // Picture and tall flag of the anchor, and how many cells were marked.
+  const auto expectStage = [&](int services, int tax, int image, int tall, int marked) {
     g.taxRate = tax;
+    g.cellDirty.fill(0);
     city.serve(5, 5, services);
-    return int{g.tileImage(5, 5)};
+    EXPECT_EQ(g.tileImage(5, 5), image);
+    EXPECT_EQ(g.cellTall(5, 5), tall);
+    EXPECT_EQ(city.count(g.cellDirty), marked) << services << " services at " << tax;
   };
-  EXPECT_EQ(imageAt(1, 15), 4);
-  EXPECT_EQ(imageAt(4, 20), 19);
-  EXPECT_EQ(imageAt(4, 15), 3);
-  EXPECT_EQ(g.cellTall(5, 5), 1);
-  EXPECT_EQ(imageAt(5, 30), 19);
-  EXPECT_EQ(g.cellTall(5, 5), 0);
+  expectStage(1, 15, 4, 0, 4);
+  expectStage(1, 15, 4, 0, 0);
+  expectStage(4, 20, 19, 0, 12);
+  expectStage(4, 20, 19, 0, 12);  // a house is marked again though nothing changed
+  expectStage(4, 15, 3, 1, 12);
+  expectStage(5, 30, 19, 0, 12);
+  expectStage(5, 15, 3, 1, 12);
+  g.food = 0;
+  expectStage(5, 15, 4, 0, 12);
+  g.food = 1;
+  expectStage(2, 15, 19, 0, 12);
 
-  // A house is marked with all behind it though nothing changed; a house that falls marks less.
-  g.cellDirty.fill(0);
-  evolveResidences(g);
-  EXPECT_EQ(city.count(g.cellDirty), 4 + 8);
   g.cellDirty.fill(0);
   g.cellCapacity(6, 6) = 4;
   evolveResidences(g);
   EXPECT_EQ(g.tileImage(5, 5), 4);
-  EXPECT_EQ(city.count(g.cellDirty), 4 + 5);
+  EXPECT_EQ(city.count(g.cellDirty), 9);
   EXPECT_EQ(g.cellDirty(4, 6) + g.cellDirty(6, 4), 2);
-  g.cellDirty.fill(0);
-  evolveResidences(g);
-  EXPECT_EQ(city.count(g.cellDirty), 0);
-
-  EXPECT_EQ(imageAt(5, 15), 3);
-  g.food = 0;
-  g.cellDirty.fill(0);
-  EXPECT_EQ(imageAt(5, 15), 4);
-  EXPECT_EQ(city.count(g.cellDirty), 4 + 8);
-  EXPECT_EQ(g.cellTall(5, 5), 0);
 }
 
 }  // namespace
