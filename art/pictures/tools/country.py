@@ -117,7 +117,7 @@ class World:
             self.C[j:j + 2, i:i + 2] = colours[r.randint(len(colours))]
 
     # ---- lines: roads, streams
-    def along(self, pts, n=60):
+    def along(self, pts, n=60, reach=2.5):
         """Distance of every grid point to a smooth curve through the points."""
         p = np.array(pts, float)
         q = []
@@ -129,8 +129,8 @@ class World:
         q = np.array(q)
         best = np.full(self.Z.shape, 9., np.float32)
         for x, y in q:
-            i0, i1 = int((x - 2.5 - self.x0) * R), int((x + 2.5 - self.x0) * R)
-            j0, j1 = int((y - 2.5 - self.y0) * R), int((y + 2.5 - self.y0) * R)
+            i0, i1 = int((x - reach - self.x0) * R), int((x + reach - self.x0) * R)
+            j0, j1 = int((y - reach - self.y0) * R), int((y + reach - self.y0) * R)
             i0, j0 = max(i0, 0), max(j0, 0)
             if i1 <= i0 or j1 <= j0:
                 continue

@@ -39,30 +39,46 @@ def bevel(img, d, at, width, raised=1, amount=.16):
     upper left."""
     gy, gx = np.gradient(d)
     t = np.clip((d - at) / width, 0, 1)
-    slope = np.sin(np.pi * t) * ((d > at) & (d < at + width))
-    lit = (-gx - gy) / np.maximum(np.hypot(gx, gy), 1e-6) / 1.4142
-    return img - (lit * -raised * slope * amount)[..., None] * [1, .9, .62]
+    slope = np.cos(np.pi * t) * ((d > at) & (d < at + width))       # up, then down again
+    lit = (gx + gy) / np.maximum(np.hypot(gx, gy), 1e-6) / 1.4142
+    return img + (lit * raised * slope * amount)[..., None] * [1, .95, .80]
 
 
-def plate(w, h, base, seed, r=5, field=None):
-    """One plate: a slim raised frame with a thin gold line, a quiet silky field."""
-    d = inset(h, w, r)
+def enamel(w, h, base, seed):
+    """A quiet field: lighter at the top, faintly veined."""
     y, x = np.mgrid[0:h, 0:w]
     img = np.empty((h, w, 3))
     img[:] = base
-    light = .028 - .056 * (y + .25 * x) / (h + .25 * w)
-    silk = .010 * noise(h, w, (26, 3), seed) + .007 * noise(h, w, (9, 1.6), seed + 1) + .006 * noise(h, w, (60, 14), seed + 2)
-    img += (light + silk)[..., None] * [1, .95, .7]
-    frame = d < 5
-    img[frame] += np.array([.035, .030, .016])
-    img = bevel(img, d, 0, 4.4, 1, .17)
-    line = np.clip(1 - np.abs(d - 5.4) / .8, 0, 1)[..., None]
-    img = img * (1 - .85 * line) + GOLD * .85 * line
-    groove = np.clip(1 - np.abs(d - 6.9) / .9, 0, 1)[..., None]     # shade under the frame
-    gy, gx = np.gradient(d)
-    img = img + groove * ((-gx - gy)[..., None] * .045) * [1, .9, .62]
+    light = .040 - .075 * (y + .20 * x) / (h + .20 * w)
+    vein = np.abs(noise(h, w, (30, 9), seed))
+    silk = .016 * noise(h, w, (48, 16), seed + 2) + .012 * noise(h, w, (13, 5), seed + 1) + .013 * np.exp(-(vein / .10) ** 2)
+    return img + (light + silk)[..., None] * [1, .92, .62]
+
+
+IVORY = np.array([226, 212, 178]) / 255.
+
+
+def plate(w, h, base, seed, r=5, field=None, frame=5):
+    """One plate: a rounded frame of pale stone, a gold line, a field of enamel."""
+    d = inset(h, w, r)
+    img = enamel(w, h, base, seed)
     if field is not None:
         img = field(img, d)
+    # the field lies deeper than the frame: shade along its upper and left side
+    gy, gx = np.gradient(blur(d, 1.0))
+    side = (gx + gy) / np.maximum(np.hypot(gx, gy), 1e-6) / 1.4142
+    drop = np.exp(-np.clip(d - frame - .5, 0, None) / 1.6) * (d > frame)
+    img = img - (drop * (.085 * np.clip(side, 0, 1) - .05 * np.clip(-side, 0, 1)))[..., None] * [1, .9, .6]
+    stone = IVORY + (.020 * noise(h, w, (7, 4), seed + 5) + .014 * noise(h, w, (2.2, 2.2), seed + 6))[..., None] * [1, 1, .9]
+    stone = bevel(stone, d, -.3, frame + .2, 1, .150)
+    a = np.clip(frame - d + .5, 0, 1)[..., None]
+    img = img * (1 - a) + stone * a
+    line = np.clip(1 - np.abs(d - frame - .1) / .85, 0, 1)[..., None]
+    img = img * (1 - .80 * line) + np.array([190, 158, 92]) / 255. * .80 * line
+    rim = np.clip(1 - np.abs(d - .35) / .8, 0, 1)[..., None]
+    img = img * (1 - .7 * rim) + np.array([172, 158, 126]) / 255. * .7 * rim
+    out = np.clip(.2 - d, 0, 1)[..., None]                          # beyond the rounded corners
+    img = img * (1 - out) + base * out
     return settle(img)
 
 
@@ -83,27 +99,31 @@ def rule(img, x0, x1, y, strength=1):
     img[y + 1, x0:x1] += e * np.array([.09, .075, .035])
 
 
-def well(img, x, y, w, h, deep=1):
+def well(img, x, y, w, h, deep=1, glow=.0):
     """A shallow round-cornered hollow or, with deep -1, a raised key."""
     d = inset(h, w, 4)
     sub = img[y:y + h, x:x + w]
-    inside = d > 0
-    out = bevel(sub.copy(), d, 0, 2.4, -deep, .11)
-    t = np.clip(d / 3, 0, 1)[..., None] * (-.012 * deep)
-    out += t * [1, .9, .5]
-    sub[inside] = out[inside]
+    gy, gx = np.gradient(d)
+    side = (gx + gy) / np.maximum(np.hypot(gx, gy), 1e-6) / 1.4142
+    edge = np.exp(-np.clip(d - .4, 0, None) / 1.1)
+    t = np.clip(d, 0, 1)[..., None]
+    v = (np.mgrid[0:h, 0:w][0] / h - .5)
+    body = glow * np.ones((h, w)) - deep * -.035 * v if deep > 0 else .052 - .060 * v
+    out = sub + (body - deep * .125 * side * edge)[..., None] * [1, .95, .75]
+    rim = np.clip(1 - np.abs(d - .5) / .7, 0, 1)[..., None] * (.55 if deep < 0 else .25)
+    out = out * (1 - rim) + np.array([118, 146, 196]) / 255. * rim
+    sub[:] = sub * (1 - t) + out * t
 
 
 def tools_field(img, d):
     """The tool palette: two keys for the mode, a board for the current tool,
-    and a place for each of the nine tools."""
-    for x, y, w, h in ((8, 4, 57, 19), (80, 4, 57, 19)):
-        well(img, x - 1, y, w + 2, h + 1, -1)
-    well(img, 7, 29, 131, 64, 1)
-    rule(img, 24, 121, 97, .8)
-    for x, y, w, h in ((8, 102, 57, 21), (80, 102, 57, 21), (8, 134, 57, 21), (80, 134, 57, 21), (8, 166, 57, 21),
-                       (80, 166, 57, 21), (8, 198, 57, 21), (80, 198, 57, 21), (8, 229, 129, 21)):
-        well(img, x - 1, y, w + 2, h + 1, -1)
+    and a key for each of the nine tools."""
+    for x, y, w, h in ((7, 5, 59, 19), (79, 5, 59, 19)):
+        well(img, x, y, w, h, -1)
+    well(img, 6, 28, 133, 66, 1, -.012)
+    for x, y, w, h in ((7, 102, 60, 22), (75, 102, 64, 22), (7, 134, 60, 22), (78, 134, 61, 22), (7, 166, 60, 22),
+                       (78, 166, 61, 22), (7, 198, 60, 22), (78, 198, 61, 22), (7, 229, 132, 22)):
+        well(img, x, y, w, h, -1)
     return img
 
 
@@ -119,18 +139,22 @@ def dividers(*xs):
 
 
 def views_field(img, d):
-    rule(img, 16, 129, 27)
+    """Six keys in a row under the name of the view."""
+    rule(img, 16, 129, 28)
+    for i in range(6):
+        x0, x1 = max(24 * i + 1, 4), min(24 * i + 24, 141)
+        well(img, x0, 55, x1 - x0, 21, -1)
     return img
 
 
 def main():
     for name, w, h, base, seed, field in (
-            ('Image3', 623, 37, SKY, 11, dividers(155, 311, 467)), ('Image2', 141, 157, SKY, 12, None),
+            ('Image3', 623, 37, SKY, 11, dividers(170, 321, 464)), ('Image2', 141, 157, SKY, 12, None),
             ('Image7', 145, 34, SKY, 13, None), ('Image11', 145, 80, SKY, 14, views_field),
             ('Image10', 145, 55, SKY, 15, None), ('Image9', 145, 34, SKY, 16, None),
             ('Image5', 145, 34, SKY, 17, None), ('Image4', 145, 34, SKY, 18, None),
             ('Image6', 145, 258, SKY, 19, tools_field), ('Image8', 178, 37, SKY, 20, None)):
-        save_rgb('panel/' + name, plate(w, h, base, seed, field=field))
+        save_rgb('panel/' + name, plate(w, h, base, seed, field=field, frame=4 if h > 40 else 5))
     for i, name in enumerate(('Picture1', 'Picture2', 'Picture3', 'Picture5', 'Picture6', 'Picture7', 'Picture8', 'Picture9', 'ivir')):
         save_rgb('panel/' + name, plate(155, 33, PALE, 40 + i))
     marks()
@@ -159,13 +183,36 @@ def marks():
 
 
 def icon():
-    S = 4
-    y, x = (np.mgrid[0:64 * S, 0:64 * S] + .5) / S
-    img = np.zeros((64 * S, 64 * S, 4))
-    img[..., :3] = [.45, .6, .85]
-    img[..., 3] = np.hypot(x - 32, y - 32) < 30
-    a = box_down(img, S)
-    Image.fromarray(np.round(a * 255).astype(np.uint8), 'RGBA').save(path('icon'), compress_level=9)
+    """A tower, a house and a tree, rendered at twice the size."""
+    import scene
+    w, h, ss = 156, 156, 4
+    ext = ['OX=78', 'OY=73', 'DomeN=24']
+    b = scene.povray('icon', 0, w, h, ss, ext) * 2
+    aux = scene.povray('icon', 1, w, h, ss, ext)
+    hit = (aux[..., 0] > 0).astype(float)
+    line = scene.outline(np.where(hit > 0, aux[..., 0], 1) * 60, ss, 1.1)
+    b = b * (1 - line[..., None] * .55)
+    cov, col = box_to(hit, 64), box_to(b * hit[..., None], 64)
+    col = grade(col / np.maximum(cov, 1e-6)[..., None], 1.05, 1.15, 1.12)
+    col = unsharp(col, cov > .02, .4, .7)
+    out = np.concatenate([col, cov[..., None]], -1)
+    out[cov < .02] = 0
+    Image.fromarray(np.round(np.clip(out, 0, 1) * 255).astype(np.uint8), 'RGBA').save(path('icon'), compress_level=9)
+
+
+def box_to(a, n):
+    """Average a square picture down to n x n, by areas."""
+    s = a.shape[0]
+    k = np.zeros((n, s))
+    for i in range(n):
+        lo, hi = i * s / n, (i + 1) * s / n
+        j = np.arange(int(lo), min(int(np.ceil(hi)), s))
+        k[i, j] = np.clip(np.minimum(j + 1, hi) - np.maximum(j, lo), 0, 1) * n / s
+    return np.moveaxis(np.tensordot(k, np.moveaxis(np.tensordot(k, a, (1, 0)), 1, 0), (1, 0)), 0, 1)
+
+
+def render(parts=None):
+    main()
 
 
 if __name__ == '__main__':

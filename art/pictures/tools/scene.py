@@ -1,12 +1,13 @@
 """Render the large scenes: run POV-Ray, draw outlines, average, grade.
 
-DRAFT=1 in the environment renders with single samples and few sky lights."""
+ART_DRAFT=1 in the environment renders with single samples and few sky lights."""
 import subprocess, sys, time
 from land import *
 
 POV = os.path.join(HERE, '../pov')
 OUT = os.path.abspath(os.environ.get('SCENES') or os.path.join(HERE, '../../out/scenes'))
-DRAFT = bool(os.environ.get('DRAFT'))
+DRAFT = bool(os.environ.get('ART_DRAFT'))
+REUSE = bool(os.environ.get('ART_REUSE'))       # only finish again what was rendered before
 
 
 def read_ppm(name):
@@ -30,6 +31,8 @@ def read_ppm(name):
 def povray(scene, npass, w, h, ss, declare=()):
     os.makedirs(OUT, exist_ok=True)
     out = '%s/%s_%d.ppm' % (OUT, scene, npass)
+    if REUSE and os.path.exists(out) and scene != 'daylight':
+        return read_ppm(out)
     cmd = ['nice', '-n', '10', 'povray', '+I' + scene + '.pov', '+O' + out, '+W%d' % (w * ss), '+H%d' % (h * ss), '+Linc', '+L' + OUT,
            '+FP16', '-D', '-A', '-J', 'File_Gamma=1.0', '+WT1', 'Declare=Pass=%d' % npass,
            'Declare=CW=%d' % w, 'Declare=CH=%d' % h] + ['Declare=' + d for d in declare]
