@@ -179,6 +179,7 @@ void Font::draw(Surface& target, const Rect& clip, int x, int y, std::string_vie
       std::uint8_t* pixel = target.row(row) + static_cast<std::size_t>(seen.left) * 3;
       for (int i = 0; i < seen.width; ++i, pixel += 3) {
         const int part = cover[i];
+        if (part == 0) continue;
         const auto blend = [part](std::uint8_t& channel, int to) {
           channel = static_cast<std::uint8_t>((channel * (255 - part) + to * part + 127) / 255);
         };

@@ -230,6 +230,18 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
   compareFloating(tooltip_, tooltip);
   compareFloating(box_, box);
 
+  // Many rectangles that overlap cost more than the one around them all.
+  Rect around;
+  int pixels = 0;
+  for (const Rect& rect : damage_.rects()) {
+    around = boundingBox(around, rect);
+    pixels += rect.width * rect.height;
+  }
+  if (pixels > around.width * around.height) {
+    damage_.clear();
+    damage_.add(around);
+  }
+
   for (const Rect& rect : damage_.rects()) {
     const Brush brush(framebuffer, rect, font_);
     brush.fill(rect, kBlack);
