@@ -19,9 +19,18 @@ def noise(rng, seconds):
     return [rng.uniform(-1, 1) for _ in range(int(seconds * RATE))]
 
 
+def fade(sound, seconds):
+    """Lead the end to rest, so that no step is heard where a sound stops."""
+    last = min(len(sound), int(seconds * RATE))
+    for i in range(last):
+        sound[len(sound) - 1 - i] *= i / last
+    return sound
+
+
 def fall(sound, decay, attack=.001):
     """Shape a sound by a short attack and an exponential decay, both in seconds."""
-    return [v * min(1, i / RATE / attack) * math.exp(-i / RATE / decay) for i, v in enumerate(sound)]
+    out = [v * min(1, i / RATE / attack) * math.exp(-i / RATE / decay) for i, v in enumerate(sound)]
+    return fade(out, .004)
 
 
 def mix(into, sound, at, gain=1.0):
@@ -90,20 +99,20 @@ def click():
 
 
 def tick():
-    """wooden tick of a tool picked, a bar of wood with a faint fourth ringing after"""
-    rng, out = random.Random(12), silence(.30)
-    mix(out, modes(.12, [(880, 1, .018, 0), (1480, .5, .011, .5), (2370, .3, .007, 1.2)]), .001, .9)
-    mix(out, band_pass(fall(noise(rng, .03), .003), 3000, 1), 0, .4)
-    mix(out, fall(pluck(rng, 440, .26), .07), .012, .8)
-    mix(out, fall(pluck(rng, 587.33, .22), .07), .065, .8)
-    return finish(out, -6)
+    """wooden tick of a tool picked: two bars of wood, with a breath of a string after them"""
+    rng, out = random.Random(12), silence(.20)
+    mix(out, modes(.12, [(880, 1, .018, 0), (1480, .5, .011, .5), (2370, .3, .007, 1.2)]), .001)
+    mix(out, modes(.12, [(1175, 1, .014, .3), (1980, .4, .008, 0)]), .034, .45)
+    mix(out, band_pass(fall(noise(rng, .03), .003), 3000, 1), 0, .35)
+    mix(out, fall(pluck(rng, 440, .19), .05, .006), .002, .25)
+    return finish(out, -8)
 
 
 def build():
     """thump of a building set down and two strokes of the hammer"""
     rng, out = random.Random(13), silence(.62)
     thump, phase = [], 0.0
-    for i in range(int(.22 * RATE)):
+    for i in range(int(.42 * RATE)):
         phase += 2 * math.pi * (62 + 90 * math.exp(-i / RATE / .025)) / RATE
         thump.append(math.sin(phase))
     mix(out, fall(thump, .06, .002), 0)
@@ -131,10 +140,8 @@ def crumble():
 
 
 def finish(sound, peak):
-    """Fade the last 5 ms, start at rest and scale to the peak, given in dBFS."""
-    last = int(.005 * RATE)
-    for i in range(last):
-        sound[len(sound) - 1 - i] *= i / last
+    """Start and end at rest and scale to the peak, given in dBFS."""
+    fade(sound, .005)
     for i in range(8):
         sound[i] *= i / 8
     loudest = max(abs(v) for v in sound)

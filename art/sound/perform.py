@@ -140,22 +140,6 @@ class Performance:
         else:
             self._add(row, at, sounding, key, velocity, 'melody')
 
-    def _play_under(self, section, row, start):
-        """A second voice below a line: chord notes on the beats, thirds and sixths between."""
-        part = row['part']
-        for bar, beat, length, note, _ in self._written(row, section, self.score.lines[row['names'][0]]):
-            key = note.pitch + 12 * row['oct']
-            chord, _ = section.chord_at(bar, beat)
-            on_beat = abs(beat / self.score.beat - round(beat / self.score.beat)) < .01
-            below = [k for k in range(key - 3, key - 10, -1) if k >= part.low]
-            fits = [k for k in below if k % 12 in chord.tones]
-            steps = [k for k in below if k % 12 in section.scale and key - k in (3, 4, 8, 9)]
-            choice = (fits or steps) if on_beat or length > .5 else (steps or fits)
-            if choice:
-                velocity = self._arc(section, bar, beat) + self._accent(beat) - 9
-                self._add(row, start + bar * self.score.beats + beat, length * part.legato,
-                          choice[0], velocity, 'second')
-
     def _play_pat(self, section, row, start):
         part, beats = row['part'], self.score.beats
         last_bass = None

@@ -14,8 +14,8 @@ MODE = {'major': (0, 2, 4, 5, 7, 9, 11), 'minor': (0, 2, 3, 5, 7, 8, 10),
 CHORD = {'': (0, 4, 7), 'm': (0, 3, 7), '7': (0, 4, 7, 10), 'm7': (0, 3, 7, 10),
          'o': (0, 3, 6), 'sus': (0, 5, 7), '5': (0, 7)}
 # The hand drums of the percussion track: (delay in quarters, key, change of velocity).
-DRUM = {'L': [(0, 64, 0)], 'h': [(0, 63, -8)], 'm': [(0, 62, -12)], 't': [(0, 54, -26)],
-        's': [(0, 70, -20)], 'g': [(0, 81, -24)],
+DRUM = {'L': [(0, 64, 0)], 'h': [(0, 63, -8)], 't': [(0, 54, -26)],
+        'g': [(0, 81, -24)],
         'r': [(0, 63, -18), (.125, 63, -14), (.25, 62, -8)]}
 
 
@@ -44,6 +44,7 @@ class Chord:
         m = re.fullmatch(r'([A-G][#b]?)(m7|m|7|o|sus|5|)(?:/([A-G][#b]?))?', name)
         if not m:
             raise ScoreError(f'no such chord: {name}')
+        self.name = name
         root = pitch_class(m[1])
         self.tones = [(root + step) % 12 for step in CHORD[m[2]]]
         self.bass = pitch_class(m[3]) if m[3] else root
@@ -190,7 +191,7 @@ class Score:
         self.sections.append(section)
 
     def _row(self, words):
-        """part line|under|pat|pad|drone names... [oct n] [vel n] [level dB] [from bar] [to bar]"""
+        """part line|pat|pad|drone names... [oct n] [vel n] [level dB] [from bar] [to bar]"""
         section = self.sections[-1]
         row = {'part': self.parts[words[0]], 'kind': words[1], 'names': [],
                'oct': 0, 'vel': 0, 'level': 0, 'from': 1, 'to': len(section.chords)}
@@ -201,7 +202,7 @@ class Score:
                 row[word] = int(words.pop(0))
             else:
                 row['names'].append(word)
-        if row['kind'] in ('line', 'under') and len(self.lines[row['names'][0]]) < row['to']:
+        if row['kind'] == 'line' and len(self.lines[row['names'][0]]) < row['to']:
             raise ScoreError(f"line {row['names'][0]} is shorter than its section")
         if row['kind'] == 'pat':
             row['names'] = row['names'][0].split(',')
