@@ -56,7 +56,7 @@ struct Reader {
 struct Theme {
   Reader in;
   std::uint32_t perQuarter = 1;
-  std::map<std::uint32_t, double> tempo;  // seconds for a quarter, by the tick they hold from
+  std::map<std::uint32_t, double> tempo{};  // seconds for a quarter, by the tick they hold from
   bool meter = false;
 
   double seconds(std::uint32_t tick) const {
