@@ -15,10 +15,6 @@ std::string pathIn(const std::string& folder, const std::string& name) {
   return folder.empty() ? name : folder + "/" + name;
 }
 
-bool isWholeWithin(double value, double low, double high) {
-  return value >= low && value <= high && value == static_cast<double>(static_cast<long>(value));
-}
-
 bool parseProgress(std::string_view text, Progress& into, std::string& error) {
   FieldReader in(text);
   const auto failed = [&] {
@@ -33,7 +29,7 @@ bool parseProgress(std::string_view text, Progress& into, std::string& error) {
   }
   if (!in.next(reserved)) return failed();
   // Kept within 32 bits, so that every writer carries it unchanged.
-  if (!isWholeWithin(reserved, -2147483648.0, 2147483647.0)) {
+  if (!isWholeWithin(reserved, -2147483648.0, 2147483647)) {
     in.refuse("no whole number of 32 bits", reserved);
     return failed();
   }

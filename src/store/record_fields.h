@@ -2,9 +2,9 @@
 // the taking over of a record all walk, so that they cannot disagree.
 #pragma once
 
-#include <array>
-
+#include "core/game_state.h"
 #include "core/vocabulary.h"
+#include "store/text_form.h"
 
 namespace store {
 
@@ -13,10 +13,6 @@ struct Rule {
   bool (*allows)(double value);
   const char* what;  // what a message says of a value outside them, before a colon and the value
 };
-
-constexpr bool isWholeWithin(double value, int low, int high) {
-  return value >= low && value <= high && value == static_cast<int>(value);
-}
 
 inline constexpr Rule kTileCode{
     [](double v) { return isWholeWithin(v, 0, 89) && core::isTileCode(static_cast<int>(v)); },

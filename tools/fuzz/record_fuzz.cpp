@@ -4,6 +4,7 @@
 // that lies inside the tables and is the same again once written and read. Run it in a build with
 // sanitizers. The same seed gives the same texts; a text that breaks a promise is left in
 // "record_fuzz.failed", and the program ends with 1.
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -149,7 +150,7 @@ void mutate(std::string& text, const std::string& other) {
       text[at] = kBytes[draw(sizeof kBytes)];
       break;
     case 2:
-      text.resize(chance(70) ? text.size() - draw(40) : at);
+      text.resize(chance(70) ? text.size() - draw(std::min<std::size_t>(40, text.size())) : at);
       break;
     case 3:
       text.insert(at, other, somewhere(other), draw(30));
