@@ -61,9 +61,7 @@ TEST(Record, EveryNumberStandsAtItsPlacesInTheHeadAndComesBack) {
   *record = *back;  // the list above points into it
   count = 202;
   for (core::Number* const number : numbers) EXPECT_EQ(*number, count++);
-  EXPECT_FALSE(g.reserved[14].isSet() || g.reserved[15].isSet());
   EXPECT_EQ(g.gold, -1500.25);
-  EXPECT_EQ(record->values.gFertility, 1.2);
 }
 
 TEST(Record, GridsStandInTheirOrdersAndComeBackCellByCell) {
@@ -246,11 +244,8 @@ TEST(Record, ValuesByWhichTheProgramWouldLeaveItsTablesAreRefused) {
   }
   EXPECT_EQ(faultOf(withField(lines, 2, 1, "3"), *record), "line 2: no such map size: 3");
   EXPECT_EQ(faultOf(withField(lines, 2, 4, ""), *record), "line 2: no such month: (empty)");
-}
 
-TEST(Record, TheLaterCopyOfANameDecides) {
-  const auto lines = split(textOf(*newGame()));
-  const auto record = std::make_unique<Record>();
+  // Of a name that comes twice the later copy decides.
   ASSERT_EQ(faultOf(withField(lines, 1, 4, "1"), *record), "");
   EXPECT_EQ(record->game.gold, 600);
   ASSERT_EQ(faultOf(withField(lines, 9, 8, ""), *record), "");
