@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "map/made_up_city.h"
+
+namespace map {
+namespace {
+
+using platform::Rect;
+
+TEST(Renderer, BoxesLieWhereTheCellsAre) {
+  for (const auto& [x, y] : {std::pair{0, 0}, {30, 0}, {0, 30}, {30, 30}, {17, 4}}) {
+    const int left = 32 * (x - y) + 960;
+    const int top = 16 * (x + y);
+    MadeUpCity flat;
+    flat.put(x, y, 0, 29, 0);
+    flat.game.cellDirty(x, y) = 1;
+    DrawTiles32(flat.stage, kFlatCells);
+    EXPECT_EQ(drawnBox(flat.canvas.surface()), (Rect{left + 1, top + 32, 62, 32}));
+    EXPECT_EQ(flat.canvas.surface().pixel(left + 32, top + 48), colorOf(29));
+    MadeUpCity tall;
+    tall.put(x, y, 6, 12, 1);
+    DrawTiles2(tall.stage, kTallCells);
+    EXPECT_EQ(drawnBox(tall.canvas.surface()), (Rect{left, top, 64, 64}));
+  }
+  EXPECT_EQ(surfacePlace(kTallCells), (Rect{-592, -228, 1984, 1056}));
+}
+
+TEST(Renderer, FlatCellsNeedAMarkAndTallCellsNone) {
+  MadeUpCity city;
+  city.values.gMission = 2;
+  city.pictures.picMask[48] = Surface(1800, 500);
+  city.put(10, 10, 0, 28, 0);
+  city.put(20, 10, 0, 28, 0);
+  city.put(10, 20, 6, 12, 1);
+  city.put(20, 20, 6, 12, 1);
+  city.game.cellDirty(20, 10) = 1;
+  city.game.cellDirty(20, 20) = 1;
+  city.game.reserved[1] = city.game.reserved[2] = city.game.reserved[3] = 7;
+  DrawTiles32(city.stage, kFlatCells);
+  EXPECT_EQ(drawnBox(city.canvas.surface()), (Rect{1281, 512, 62, 32}));
+  EXPECT_EQ(city.game.blitCount, 2);
+  EXPECT_TRUE(city.canvas.shown().empty()) << "no refresh before the tall layer";
+
+  DrawTiles2(city.stage, kTallCells);
+  EXPECT_EQ(city.game.blitCount, 2 + 1 + 4) << "the countryside counts once, each tall cell twice";
+  EXPECT_FALSE(city.canvas.shown().empty());
+  EXPECT_EQ(city.canvas.surface().pixel(1280 + 32, 512 + 16), colorOf(28));
+  EXPECT_EQ(city.canvas.surface().pixel(960 + 32, 640 + 16), colorOf(12));
+  EXPECT_EQ(city.game.reserved[2], 7);
+  DrawTiles3(city.stage, kTallCells);
+  EXPECT_EQ(city.game.reserved[1], 7);
+  EXPECT_EQ(city.game.reserved[2] + city.game.reserved[3], 0);
+}
+
+TEST(Renderer, PicturesGiveTheirOwnPixelsAndTheVoidBlackens) {
+  MadeUpCity city;
+  city.canvas.surface().clear(colorOf(62));
+  city.put(10, 10, 0, 20, 0);
+  city.put(12, 10, 12, 5, 0);  // 63 x 33: the box cuts its last row
+  for (auto* copies : {&city.pictures.picTile, &city.pictures.picMask}) {
+    (*copies)[5].clear(colorOf(5));
+  }
+  markCells(city.game, 10, 10);
+  city.game.cellDirty(12, 10) = 1;
+  DrawTiles32(city.stage, kFlatCells);
+  const Surface& surface = city.canvas.surface();
+  EXPECT_EQ(surface.pixel(960 + 32, 352 + 16), platform::kBlack);
+  EXPECT_EQ(surface.pixel(960, 352), colorOf(62)) << "outside the diamond";
+  EXPECT_EQ(surface.pixel(1024 + 62, 384 + 31), colorOf(5));
+  EXPECT_EQ(surface.pixel(1024 + 63, 384 + 31), colorOf(62));
+  EXPECT_EQ(surface.pixel(1024 + 62, 384 + 32), colorOf(62));
+
+  // The first coat gives flat pictures their tall place, and counts them all.
+  city.game.blitCount = 0;
+  DrawTiles(city.stage, kTallCells);
+  EXPECT_EQ(surface.pixel(1024 + 32, 352 + 16), colorOf(5));
+  EXPECT_EQ(city.game.blitCount, 2 * 31 * 31);
+}
+
+TEST(Renderer, BackdropsAreOredOnceAndForAll) {
+  for (const auto& [mission, box, counted] :
+       {std::tuple{3, Rect{73, 29, 1800, 500}, 1}, std::tuple{6, Rect{89, 19, 1894, 510}, 0},
+        std::tuple{10, Rect{508, 254, 965, 293}, 0}, std::tuple{7, Rect{}, 0}}) {
+    MadeUpCity city;
+    city.values.gMission = mission;
+    openBackdrop(city.stage);
+    EXPECT_EQ(drawnBox(city.canvas.surface()), box) << mission;
+    EXPECT_EQ(city.game.blitCount, counted) << mission;
+    EXPECT_EQ(city.canvas.shown().empty(), box.empty());
+    const Surface once = city.canvas.surface().clone();
+    paintBackdrop(city.stage);
+    EXPECT_TRUE(same(once, city.canvas.surface()));
+  }
+}
+
+}  // namespace
+}  // namespace map
