@@ -124,9 +124,12 @@ TEST(Flood, APressServesThePlacedBlockByItsFarCellUntilTheLayerIsCleared) {
   EXPECT_EQ(served(FloodCause::press, 1), 4);
   EXPECT_EQ(served(FloodCause::other, 8), 4);
   clearLayer(city.game, kMarket);
+  EXPECT_EQ(city.count(city.game.roadService[kMarket]), 0);
   EXPECT_EQ(served(FloodCause::press, 1), 0);  // the step sees only what roads carried before
   for (int n = 0; n < 4; ++n) city.game.tileCode(16 + n % 2, 10 + n / 2) = 0;
   EXPECT_EQ(served(FloodCause::press, 1), 4);  // nobody asks what stands there
+  city.game.cellX = 19;                        // beside the road, but no cell is covered
+  EXPECT_EQ(served(FloodCause::press, 1), 4);
 }
 
 TEST(Coverage, EachCellOfABuildingCastsItsSquare) {
@@ -142,6 +145,9 @@ TEST(Coverage, EachCellOfABuildingCastsItsSquare) {
     EXPECT_EQ(city.count(core::coverGrid(city.game, k)), kAreas[k - 1]);
   }
   EXPECT_EQ(city.game.marketCover(5, 16) + city.game.marketCover(16, 5), 2);
+  city.game.cellTall(2, 2) = 1;  // no flag is cleared
+  markObjectCells(city.game);
+  EXPECT_EQ(city.count(city.game.cellTall), 4 * 3 + 1 + 1);
 
   // What stands at the rim of the tables writes nothing beside them.
   city.block(core::kSchoolCode, 34, 34);
@@ -167,8 +173,8 @@ TEST(Capacity, FollowsServicesTaxAndFood) {
 
   // The floor comes once, after the sum: twice 17.6 are 35.
   city.game.food = 0.5;
-  city.block(core::kResidenceCode, 8, 5);
-  city.serve(8, 5, 1);
+  city.block(core::kResidenceCode, 28, 28);
+  city.serve(28, 28, 1);
   EXPECT_EQ(housing(1, 10), 35);
 }
 

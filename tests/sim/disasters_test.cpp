@@ -69,24 +69,24 @@ TEST(RoadLoss, RemovesWhatNoRoadTouchesByASide) {
   core::GameState& g = city.game;
   city.road(10, 10, 12, 10);
   city.block(core::kResidenceCode, 11, 11);  // touches by a side
-  city.single(core::kDoctorCode, 13, 10);    // likewise
+  city.single(core::kDoctorCode, 9, 10);     // likewise
   city.farm(20, 20);
   EXPECT_FALSE(anyBuildingWithoutRoad(g));
-  city.block(core::kChurchCode, 8, 11);    // touches by a corner, and by a side a house
-  city.single(core::kDoctorCode, 13, 11);  // touches a doctor and a corner
+  city.block(core::kChurchCode, 8, 11);   // touches the road by a corner
+  city.single(core::kDoctorCode, 13, 9);  // touches the road by a corner
   EXPECT_TRUE(anyBuildingWithoutRoad(g));
   g.cellTall(8, 11) = 1;
   g.cellService[core::kMarket](9, 12) = 1;
   g.cellDirty.fill(0);
   removeBuildingsWithoutRoad(g);
   EXPECT_FALSE(anyBuildingWithoutRoad(g));
-  EXPECT_EQ(g.tileCode(8, 11) + g.tileCode(9, 12) + g.tileCode(13, 11) + g.cellTall(8, 11), 0);
+  EXPECT_EQ(g.tileCode(8, 11) + g.tileCode(9, 12) + g.tileCode(13, 9) + g.cellTall(8, 11), 0);
   EXPECT_EQ(g.tileCode(11, 11), 11);
-  EXPECT_EQ(g.tileCode(13, 10), 6);
+  EXPECT_EQ(g.tileCode(9, 10), 6);
   EXPECT_EQ(g.tileCode(22, 22), 89);
   EXPECT_EQ(g.cellService[core::kMarket](9, 12), 1);
   EXPECT_GT(g.buildingId(9, 12), 0);
-  EXPECT_EQ(city.count(g.cellDirty), 49 + 49 - 2 * 7);
+  EXPECT_EQ(city.count(g.cellDirty), 49 + 49 - 2 * 5);
 }
 
 }  // namespace

@@ -15,6 +15,9 @@ TEST(Population, ComesByAFifthOrByOneAndLeavesAtOnce) {
     movePopulation(city.game);
     EXPECT_EQ(city.game.population, expected);
   }
+  city.game.population = 95;  // a gap of five still brings one
+  movePopulation(city.game);
+  EXPECT_EQ(city.game.population, 96);
   city.game.housingCapacity = 35;
   movePopulation(city.game);
   EXPECT_EQ(city.game.population, 35);
