@@ -1,6 +1,7 @@
 #include "shell/menu_screen.h"
 
 #include "core/goals.h"
+#include "scenario/missions.h"
 #include "scenario/open_play.h"
 #include "scenario/puzzles.h"
 #include "shell/display_mode.h"

@@ -1,0 +1,47 @@
+// vellmoran-driver FOLDER [--data DIR] < script: the whole program without a window, driven by commands
+// on standard input. One answer a command; exit status 1 if any command failed, 2 if the program could
+// not start.
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+#include "driver/commands.h"
+#include "platform/program_folder.h"
+
+int main(int argc, char** argv) {
+  std::string folder;
+  std::string data = platform::executableFolder() + "/data";
+  bool usable = true;
+  for (int n = 1; n < argc; ++n) {
+    const std::string argument = argv[n];
+    if (argument == "--data" && n + 1 < argc) {
+      data = argv[++n];
+    } else if (folder.empty() && !argument.starts_with("--")) {
+      folder = argument;
+    } else {
+      usable = false;
+    }
+  }
+  if (folder.empty() || !usable) {
+    std::fprintf(stderr, "usage: vellmoran-driver FOLDER [--data DIR] < script\n");
+    return 2;
+  }
+  // Pictures are read before the folder is entered, so a relative name is still good.
+  std::string error;
+  const auto session = driver::Session::start(folder, data, error);
+  if (session == nullptr) {
+    std::fprintf(stderr, "vellmoran-driver: %s\n", error.c_str());
+    return 2;
+  }
+  bool failed = false;
+  std::string line;
+  while (std::getline(std::cin, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (!driver::isCommand(line)) continue;
+    const std::string answer = driver::run(*session, line);
+    std::cout << answer << std::endl;
+    if (answer.starts_with("error")) failed = true;
+    if (line == "quit") break;
+  }
+  return failed ? 1 : 0;
+}

@@ -1,0 +1,72 @@
+#include "driver/session.h"
+
+#include <unistd.h>
+
+#include <chrono>
+
+#include "platform/program_folder.h"
+
+namespace driver {
+
+namespace {
+
+std::uint64_t seedFromClock() {
+  return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+}  // namespace
+
+Session::Session() : random_(&clock_, seedFromClock()), walkerRandom_(&clock_, ~seedFromClock()) {}
+
+std::unique_ptr<Session> Session::start(const std::string& folder, const std::string& dataFolder,
+                                        std::string& error) {
+  auto session = std::unique_ptr<Session>(new Session);
+  if (!session->assets_.load(dataFolder, error)) return nullptr;
+  if (!platform::enterFolder(folder, error)) return nullptr;
+  char buffer[4096];
+  if (getcwd(buffer, sizeof buffer) == nullptr) {
+    error = folder + ": its full name cannot be found out";
+    return nullptr;
+  }
+  session->folder_ = buffer;
+  session->services_ = std::make_unique<shell::Services>(shell::Services{session->clock_,
+                                                                         session->random_,
+                                                                         session->walkerRandom_,
+                                                                         session->media_,
+                                                                         session->display_,
+                                                                         session->assets_,
+                                                                         session->folder_,
+                                                                         {}});
+  session->program_ = std::make_unique<shell::Program>(*session->services_);
+  session->program_->start();
+  return session;
+}
+
+void Session::advance(std::int64_t milliseconds) {
+  const std::int64_t target = clock_.milliseconds() + milliseconds;
+  while (program_->screen() != nullptr) {
+    const std::int64_t due = program_->screen()->timers().nextDue();
+    if (due < 0 || due > target) break;
+    if (due > clock_.milliseconds()) clock_.advanceTo(due);
+    program_->runTimers();
+  }
+  clock_.advanceTo(target);
+}
+
+void Session::pointer(int x, int y) {
+  program_->desk().setNow(clock_.milliseconds());
+  program_->desk().pointerMoved({x, y});
+  program_->settle();
+}
+
+void Session::press() {
+  program_->desk().buttonDown();
+  program_->settle();
+}
+
+void Session::release() {
+  program_->desk().buttonUp();
+  program_->settle();
+}
+
+}  // namespace driver
