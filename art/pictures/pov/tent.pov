@@ -29,7 +29,7 @@ mesh { triangle { <Xb,Y1,0.01>, <Xb+0.02,Yr+0.10,0.01>, <Xb,Yr,Zr> } mPlain(cCan
 mesh { triangle { <Xb,Y0,0.01>, <Xb+0.02,Yr-0.10,0.01>, <Xb,Yr,Zr> } mPlain(cCanvas*1.08) }
 cylinder { <Xb,Yr,0>, <Xb,Yr,Zr>, 0.014 mPlain(cBeam) }
 cylinder { <Xa-0.01,Yr,Zr>, <Xb+0.02,Yr,Zr>, 0.016 mPlain(Band*0.8) }
-cylinder { <Xb,Yr,Zr>, <0.97,Yr+0.03,0>, 0.006 mPlain(Rope) }
+cylinder { <Xb,Yr,Zr>, <0.95,Yr+0.04,0>, 0.006 mPlain(Rope) }
 cylinder { <X0+0.08,Y1,0.03>, <X0+0.05,Y1+0.09,0>, 0.006 mPlain(Rope) }
 cylinder { <Xb-0.06,Y1,0.03>, <Xb-0.05,Y1+0.09,0>, 0.006 mPlain(Rope) }
 // a hearth of stones

@@ -1,5 +1,5 @@
 """Everything that is modelled as a scene: buildings, tent, fields, doctor,
-front walls and tower."""
+front walls and tower, the bushes of the third ground."""
 import numpy as np
 from iso import *
 import render as scenes
@@ -7,6 +7,7 @@ import render as scenes
 # drawing: scene, kind of canvas, options, picture numbers of its pieces in
 # the order anchor, x + 1, y + 1, both (or of its one cell)
 DRAWINGS = {
+    'heath':     ('heath', 'tile', {'line': .3}, [29]),
     'tent':      ('tent', 'tile', {}, [4]),
     'house':     ('house', 'flat', {}, [19, 35, 33, 34]),
     'apartment': ('apartment', 'apt', {}, [3, 5, 6, 7]),
