@@ -17,7 +17,8 @@ Rect inset(const Rect& r, int by) {
 }
 
 void paintTitle(const Brush& brush, const Control& control, const Rect& place) {
-  const Rect bar{place.left + 2, place.top + 2, place.width - 4, lineHeight(FontSize::pt14)};
+  // With its edge the bar ends above row 24, where what a panel holds may begin.
+  const Rect bar{place.left + 2, place.top + 2, place.width - 4, 20};
   if (control.design->opaque) {
     brush.fillDown(bar, mix(control.back, kTitleTint, 18), mix(control.back, kTitleTint, 38));
     brush.fill({bar.left, bar.bottom(), bar.width, 1}, mix(control.back, kInk, 35));

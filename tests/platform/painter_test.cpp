@@ -29,7 +29,7 @@ class Painting : public Toolkit {
   void change() {
     const int id = roll(0, form_.count() - 1);
     Control& control = form_[id];
-    switch (roll(0, 15)) {
+    switch (roll(0, 19)) {
       case 0:
         form_.setVisible(id == kHidden ? kPanel : id, roll(0, 2) > 0);
         break;
@@ -46,7 +46,7 @@ class Painting : public Toolkit {
         form_.moveTo(kMap, -64 * roll(0, 4), -32 * roll(0, 4));
         break;
       case 5:
-        form_.moveTo(roll(0, 1) ? kPanel : kSave, roll(-50, 700), roll(-50, 500));
+        form_.moveTo(roll(0, 1) ? kPanel : kSave, roll(-50, 600), roll(-50, 400));
         break;
       case 6:
         form_[kLine0].from = {roll(100, 800), roll(50, 600)};
@@ -61,7 +61,8 @@ class Painting : public Toolkit {
         canvas_.refresh();
         break;
       case 9:
-        control.border = !control.border;
+        if (roll(0, 1)) control.border = !control.border;
+        form_[kCheck].checked = roll(0, 1) != 0;
         break;
       case 10:
         form_[kFiles].list->items.resize(static_cast<std::size_t>(roll(0, 20)), "new");
@@ -78,10 +79,13 @@ class Painting : public Toolkit {
       case 14:
         now_ += roll(0, 900), desk_.setNow(now_);
         break;
+      case 15:
+        form_.show(roll(0, 1) ? kPanel : kSave);
+        break;
       default:
         desk_.pointerMoved({roll(0, 799), roll(0, 599)});
-        if (roll(0, 1)) desk_.pointerMoved(at(roll(kName, kFiles), 10, 10));
-        roll(0, 1) ? desk_.buttonDown() : desk_.buttonUp();
+        if (roll(0, 3)) desk_.pointerMoved(at(roll(kCombo, kFiles), roll(0, 80), 10));
+        roll(0, 3) ? desk_.buttonDown() : desk_.buttonUp();
     }
   }
 
@@ -128,6 +132,7 @@ TEST_F(Painting, WhatIsDrawnStaysOffTheScreenUntilTheRefresh) {
   canvas_.refresh();
   EXPECT_EQ(painter_.paint(screen_, desk_, 0).rects()[0], (Rect{590, 490, 30, 30}));
   EXPECT_EQ(screen_.pixel(600, 500), kBlack);
+  EXPECT_TRUE(painter_.paint(screen_, desk_, 0).empty());
 }
 
 TEST_F(Painting, LinesLieAboveTheirPictureBelowItsSiblingsAndInsideIt) {
