@@ -199,6 +199,7 @@ TEST(Record, OnlyTheNumberAndTheOrderOfFieldsCount) {
     EXPECT_EQ(faultOf(text + rest, *record), "line 11918" + more);
   }
   EXPECT_EQ(faultOf(text.substr(0, text.size() - 2) + ",0\r\n", *record), "line 11917" + more);
+  EXPECT_EQ(faultOf(text.substr(0, text.size() - 2) + ",", *record), "line 11917" + more);
   EXPECT_EQ(faultOf(join(lines, "\r"), *record), "line 1: a carriage return stands alone");
   EXPECT_TRUE(faultOf("\xEF\xBB\xBF" + text, *record).starts_with("line 1, field 1:"));
 }
@@ -225,6 +226,8 @@ TEST(Record, ValuesByWhichTheProgramWouldLeaveItsTablesAreRefused) {
       {12, 1, ",0,6,7,11,54,81,89,", "1,10,15,55,80,90,-11,7.5,65543,"},  // tileCode
       {1307, 3, ",0,1,", "2,-1,0.5,257,"},                                // marketCover
       {12, 8, ",5,", "6,-1,1.5,261,"},                                    // cellServices
+      {12, 7, "1,", "2,"},                                                // doctorCover
+      {12, 9, "1,", "2,"},                                                // cellTall
       {12, 10, "1,", "2,"},                                               // cellDirty
       {2307, 1, ",1,", "2,-1,"},                                          // toolUnlocked
       {2308, 1, ",1,", "2,0.1,"},                                         // roadService
