@@ -17,7 +17,7 @@ Ground()
 #switch (Who)
   #case (0) #declare cCoat = C("3A6CC4"); #declare cHair = C("6E4322"); #declare cLegs = C("D8C79C"); #break
   #case (1) #declare cCoat = C("C8423A"); #declare cHair = C("F2E4C4"); #declare cLegs = C("A83430"); #break
-  #case (2) #declare cCoat = C("D08A4A"); #declare cHair = C("E2BC50"); #declare cLegs = C("7A5634"); #break
+  #case (2) #declare cCoat = C("7FA9B4"); #declare cHair = C("E2BC50"); #declare cLegs = C("7A5634"); #break
   #case (3) #declare cCoat = C("55934C"); #declare cHair = C("8A4A24"); #declare cLegs = C("48803F"); #break
 #end
 #declare cSkin = C("F0C09A"); #declare cShoe = C("3A281A");

@@ -19,9 +19,9 @@ DRAWINGS = {
     'field':     ('farm', 'tile', {'declare': ['Stage=0']}, [13]),
     'crop':      ('farm', 'tile', {'declare': ['Stage=1']}, [54]),
     'straw':     ('farm', 'tile', {'declare': ['Stage=2']}, [55]),
-    'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'own': ['Which=0', 'Own=1'], 'fade': False}, [59]),
-    'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'own': ['Which=1', 'Own=1'], 'fade': False}, [60]),
-    'tower':     ('wall', 'tiletall', {'declare': ['Which=2']}, [61]),
+    'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'own': ['Which=0', 'Own=1'], 'fade': ''}, [59]),
+    'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'own': ['Which=1', 'Own=1'], 'fade': ''}, [60]),
+    'tower':     ('wall', 'tiletall', {'declare': ['Which=2'], 'fade': 'x'}, [61]),
 }
 ODD_BOX = (5, 6)          # 63 x 33: drawn as 64 x 32, so nothing may be lost
 

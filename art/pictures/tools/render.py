@@ -169,13 +169,14 @@ def finish(name, kind, opts):
     col = unsharp(col, cov > .02, opts.get('sharp', .5), .7)
 
     foot = footprint(w, h, ox, oy, n)
-    y, x = np.mgrid[0:h, 0:w]                   # distance to the rim, 0..1 over 5 pixels
-    rim = (16 * n - np.abs(x + .5 - ox) / 2 - np.abs(y + .5 - oy - 16 * n)) / 5
+    u, v = cell_uv(w, h, ox, oy)
+    fade = opts.get('fade', 'xy')               # towards which edges shadows fade out
+    rim = np.full((h, w), 1.)                   # 0..1 over 5 pixels from the rim
+    for axis, t in (('x', u), ('y', v)):
+        if axis in fade:
+            rim = np.minimum(rim, np.minimum(t, n - t) * 32 / 5)
     rim = np.clip(rim, 0, 1)[..., None]
-    if opts.get('fade', True):
-        shade = 1 - (1 - np.clip(shade, 0, 1)) * (rim * rim * (3 - 2 * rim))
-    else:
-        shade = np.clip(shade, 0, 1)
+    shade = 1 - (1 - np.clip(shade, 0, 1)) * (rim * rim * (3 - 2 * rim))
     comp = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(grass_canvas(w, h, ox, oy)) * shade)
     above = (cov >= .5) & ~foot & ~below(w, h, ox, oy, n)
     if kind in ('flat', 'tile'):
