@@ -26,9 +26,9 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: vellmoran-driver FOLDER [--data DIR] < script\n");
     return 2;
   }
-  // Pictures are read before the folder is entered, so a relative name is still good.
   std::string error;
-  const auto session = driver::Session::start(folder, data, error);
+  const auto assets = driver::Session::loadAssets(data, error);
+  const auto session = assets ? driver::Session::start(folder, assets, error) : nullptr;
   if (session == nullptr) {
     std::fprintf(stderr, "vellmoran-driver: %s\n", error.c_str());
     return 2;

@@ -18,10 +18,16 @@ std::uint64_t seedFromClock() {
 
 Session::Session() : random_(&clock_, seedFromClock()), walkerRandom_(&clock_, ~seedFromClock()) {}
 
-std::unique_ptr<Session> Session::start(const std::string& folder, const std::string& dataFolder,
-                                        std::string& error) {
+std::shared_ptr<shell::Assets> Session::loadAssets(const std::string& dataFolder,
+                                                   std::string& error) {
+  auto assets = std::make_shared<shell::Assets>();
+  return assets->load(dataFolder, error) ? assets : nullptr;
+}
+
+std::unique_ptr<Session> Session::start(const std::string& folder,
+                                        std::shared_ptr<shell::Assets> assets, std::string& error) {
   auto session = std::unique_ptr<Session>(new Session);
-  if (!session->assets_.load(dataFolder, error)) return nullptr;
+  session->assets_ = std::move(assets);
   if (!platform::enterFolder(folder, error)) return nullptr;
   char buffer[4096];
   if (getcwd(buffer, sizeof buffer) == nullptr) {
@@ -34,7 +40,7 @@ std::unique_ptr<Session> Session::start(const std::string& folder, const std::st
                                                                          session->walkerRandom_,
                                                                          session->media_,
                                                                          session->display_,
-                                                                         session->assets_,
+                                                                         *session->assets_,
                                                                          session->folder_,
                                                                          {}});
   session->program_ = std::make_unique<shell::Program>(*session->services_);

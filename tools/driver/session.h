@@ -14,9 +14,12 @@ namespace driver {
 class Session {
  public:
   /// Starts the program in `folder`, which becomes the working folder. Null, with the reason in
-  /// `error`, when it can't be started.
-  static std::unique_ptr<Session> start(const std::string& folder, const std::string& dataFolder,
-                                        std::string& error);
+  /// `error`, when it can't be started. Sessions that follow one another may share their assets.
+  static std::unique_ptr<Session> start(const std::string& folder,
+                                        std::shared_ptr<shell::Assets> assets, std::string& error);
+  /// Reads pictures and font. Null, with the reason in `error`, when something is missing.
+  static std::shared_ptr<shell::Assets> loadAssets(const std::string& dataFolder,
+                                                   std::string& error);
 
   shell::Program& program() { return *program_; }
   platform::VirtualClock& clock() { return clock_; }
@@ -24,7 +27,7 @@ class Session {
   platform::VirtualDisplay& display() { return display_; }
   platform::Random& random() { return random_; }
   platform::Random& walkerRandom() { return walkerRandom_; }
-  platform::Font& font() { return *assets_.font; }
+  platform::Font& font() { return *assets_->font; }
   const std::string& folder() const { return folder_; }
 
   /// Lets virtual time pass; every due timer ticks, in order of its due time.
@@ -41,7 +44,7 @@ class Session {
   platform::Random walkerRandom_;
   platform::VirtualMedia media_;
   platform::VirtualDisplay display_;
-  shell::Assets assets_;
+  std::shared_ptr<shell::Assets> assets_;
   std::string folder_;
   std::unique_ptr<shell::Services> services_;
   std::unique_ptr<shell::Program> program_;

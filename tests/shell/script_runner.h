@@ -1,0 +1,46 @@
+// Plays driver scripts as tests. A script is what the driver itself takes, with two kinds of remarks:
+//
+//   #= ok 600           the answer that the command above must give, whole
+//   #write NAME TEXT    puts a file into the program's folder before the script starts
+//
+// and one short form: @x,y stands for the screen pixel in the middle of cell (x, y), wherever the map
+// has been slid to. A command without an expected answer must be answered with ok.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "driver/session.h"
+
+namespace script {
+
+/// A program in an empty folder of its own, which goes when this goes.
+class Play {
+ public:
+  Play();
+  ~Play();
+  Play(const Play&) = delete;
+  Play& operator=(const Play&) = delete;
+
+  driver::Session& session() { return *session_; }
+  const std::string& folder() const { return folder_; }
+  /// Runs one command and gives its answer.
+  std::string operator()(const std::string& command);
+  /// Runs commands, one a line; each must be answered with ok.
+  void run(const std::string& commands);
+  /// Starts the program anew in the same folder.
+  void restart();
+  /// The text of a file in the folder; empty when it is missing.
+  std::string file(const std::string& name) const;
+  void write(const std::string& name, const std::string& text) const;
+
+ private:
+  std::string folder_;
+  std::string before_;
+  std::unique_ptr<driver::Session> session_;
+};
+
+/// Plays a script file; every answer that differs is a failure of the running test.
+void playFile(const std::string& path);
+
+}  // namespace script
