@@ -54,7 +54,7 @@ class Meadow:
 
     def blade(self, x, y):
         r = self.r
-        top = r.uniform(3.0, 4.2)
+        top = r.uniform(2.8, 3.9)
         self.put(x, y, top)
         self.put(x, y + 1, top - .9)
         if r.rand() < .6:
