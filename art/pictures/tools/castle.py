@@ -9,7 +9,7 @@ def castle():
     rim = np.minimum(X, Y) - 7.25 + .25 * w.noise(2.1, 2)
     rim = np.maximum(rim, 1.6 - np.hypot((X - 6.7), (Y - 13.9) / 1.15))
     rim = np.maximum(rim, 1.15 - np.hypot((X - 12.3) / 1.5, (Y - 7.0)))
-    rim = np.minimum(np.minimum(rim, 14.85 - np.abs(X - Y)), 23.0 - np.maximum(X, Y)) + .16 * w.noise(1.3, 3) + .08 * w.noise(.45, 4)
+    rim = np.minimum(np.minimum(rim, 14.5 - np.abs(X - Y)), 23.0 - np.maximum(X, Y)) + .16 * w.noise(1.3, 3) + .08 * w.noise(.45, 4)
     w.rim = rim
     w.meadow(32)
     w.track([(12, 9.6), (12, 8.4), (12, 7.2), (11.9, 6.2)], .13)

@@ -355,7 +355,7 @@ def coast(harbour=False):
     w.Z *= smooth(.15, 1.4, sd) * smooth(.6, -.4, Y)
     w.Z = (w.Z + .05 * smooth(.0, .22, sd) - .07 * smooth(.05, -.05, sd)).astype(np.float32)
     top = 2.3 * smooth(2.4, 3.7, X - Y)                 # the picture on the right begins lower
-    rim = np.where(Y < .6, np.minimum(rim, ((X + Y) - top - .5 - 2.45 * w.Z + .3 * w.noise(.8, 6)) * .5), rim)
+    rim = np.where(Y < .6, np.minimum(rim, ((X + Y) - top - .5 - .55 * smooth(3.2, 2.2, X - Y) - 2.45 * w.Z + .3 * w.noise(.8, 6)) * .5), rim)
     w.rim = rim
     w.meadow(31)
     # the bank of the strip repeats
@@ -409,7 +409,7 @@ def coast(harbour=False):
     w.grain(51)
     w.flowers((w.fbm(3, 60, 2) > .3) & ~w.busy & (Y < 2.4) & (sd > .3), 61, [hx('F4EEDF'), hx('F2D14A'), hx('E8607A'), hx('F4EEDF')], 450)
     # woods
-    lid = lambda u: 22 if u < 3 else 70
+    lid = lambda u: 21 if u < 3 else 70
     patch, firs = w.fbm(3.2, 72, 3), w.fbm(4.5, 80, 2)
     edge = smooth(1.4, .5, rim)
     land = (Y < .6) | (X > 3.6) & (Y < 3.9)

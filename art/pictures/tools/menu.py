@@ -11,7 +11,6 @@ SUN = np.array([-.78, -.30, .46])
 
 
 def land():
-    country.R = 20
     w = World(-48, -24, 96, 7)
     X, Y = w.X, w.Y
     line = [(4.2, -12), (4.4, -6), (4.9, -2), (6.3, 4), (8.3, 9), (11.2, 15), (11.2, 21), (8.4, 27), (4.2, 34), (1.5, 42), (3, 52), (7, 62), (9, 72)]
@@ -53,14 +52,16 @@ def land():
     w.things.append('object { Castle() translate <-12.5,18,4.1> }')
     walls(w)
     town(w)
-    w.things.append('object { Bridge(5.6, 1.15) scale <1,1,1.5> rotate z*-82 translate <8.1,9.5,0.12> }')
+    w.things.append('object { Bridge(4.7, 1.15) scale <1,1,1.5> rotate z*-82 translate <8.25,9.5,0.26> }')
     for n, x, y, s, a in (('Mill', 18.6, 25.5, 2.6, 180), ('Church', 12.9, 14.6, 2.3, 195), ('Barn', 19.5, 13.5, 1.6, 170), ('Barn', 8.8, -1.8, 1.5, 200)):
         w.put(n, x, y, s, a, .05)
         w.busy |= np.hypot(X - x, Y - y) < .7 * s
     for n, x, y, s, a in (('BoatA', 5.6, 1.4, 1.25, 20), ('BoatB', 10.6, 13.3, 1.2, 200), ('Row', 4.4, -2.7, 1.2, 60), ('BoatA', 10.4, 22.0, 1.2, 10)):
         w.put(n, x, y, s, a, z=-.05)
-    w.flock(9.4, 3.2, 9, .8)
-    w.things = [t.replace('scale 0.1', 'scale 0.5') if 'Sheep' in t else t for t in w.things]
+    for _ in range(9):
+        w.put('Sheep', 1.9 + .8 * w.r.randn(), -.8 + .7 * w.r.randn(), .58 + .12 * w.r.rand(), 360 * w.r.rand())
+    for k in range(9):                                  # a fence on the far side of the meadow road
+        w.put('Rail', -.6 - .02 * k, -7.4 + .95 * k, .95, 91, 0)
     plants(w, sd)
     w.write()
 
@@ -69,8 +70,8 @@ def fields(w, sd):
     """Strips of crops on the farther slopes, in blocks that lean with the land."""
     r = np.random.RandomState(61)
     kinds = ['D9B75C', 'EBCF78', '7FAE48', '97B858', '8A6440', 'C9BE4C', '6A9A40', 'B6C068']
-    for cx, cy, bw, bh, turn in ((20.5, 31, 12, 7, 8), (13, 38, 10, 9, -6), (-3.5, 28, 10, 7, 4), (0, 39, 12, 9, 6), (28.5, 30, 9, 8, 12), (-9, 46, 12, 10, -8), (22, 44, 13, 10, 10), (12, 50, 10, 9, -10), (-21, 29, 11, 9, 10),
-                             (-24, 42, 12, 10, -12), (22.5, 20.5, 7, 5, 4), (24, 14, 7, 5, 4), (12.6, 4.6, 5, 4.4, -6), (-24, 4, 7, 6, 4), (-2, 50, 10, 8, 3), (34, 42, 10, 9, 14), (-34, 50, 12, 9, 8)):
+    for cx, cy, bw, bh, turn in ((20, 53.5, 13, 9, 6), (12, 50, 9, 9, -8), (29, 51, 10, 9, 12), (21.5, 45, 11, 7, 3), (28.5, 31, 10, 8, 12), (13.5, 38, 9, 8, -6), (-3.5, 28, 9, 7, 4), (-3.5, 41, 10, 7, 5), (-10, 48.5, 13, 8, -6),
+                             (2, 60, 9, 8, 4), (-21, 29, 11, 9, 10), (-25, 42, 12, 10, -12), (-35, 52, 13, 9, 6), (22.5, 20.5, 7, 5, 4), (15.5, 23.6, 5, 4, 6), (24, 14, 7, 5, 4), (12.8, 4.4, 5, 4.4, -6), (-24, 4, 7, 6, 4)):
         a = np.radians(turn)
         u = (w.X - cx) * np.cos(a) + (w.Y - cy) * np.sin(a) + .15 * w.noise(2, 62)
         v = -(w.X - cx) * np.sin(a) + (w.Y - cy) * np.cos(a)
@@ -82,14 +83,14 @@ def fields(w, sd):
                     continue
                 c = hx(kinds[r.randint(len(kinds))])
                 s = (.5 + .5 * np.sin(2 * np.pi * (u if (i + j) % 2 else v) / .5))[..., None]
-                w.paint(c * (.90 + .12 * s), smooth(.10, .22, d) * .92)
+                w.paint(c * (.90 + .12 * s), smooth(.10, .22, d))
                 w.busy |= d > .05
                 for k in range(int((bw / n + bh / m) * 2.2)):      # hedges on two sides
                     p, qq = (((r.rand() - .5) * bw / n, -bh / m / 2) if k % 2 else (-bw / n / 2, (r.rand() - .5) * bh / m))
                     pu, pv = (i + .5) * bw / n - bw / 2 + p, (j + .5) * bh / m - bh / 2 + qq
                     x, y = cx + pu * np.cos(a) - pv * np.sin(a), cy + pu * np.sin(a) + pv * np.cos(a)
                     if w.at(sd, x, y) > .6:
-                        w.put('ShrA' if r.rand() < .6 else 'OakD', x, y, .6 + .4 * r.rand(), 360 * r.rand(), .05)
+                        w.put('ShrA' if r.rand() < .75 else 'OakD', x, y, .55 + .35 * r.rand(), 360 * r.rand(), .05)
 
 
 def walls(w):
@@ -150,20 +151,20 @@ def plants(w, sd):
     town_zone = (Y > 2) & (Y < 20) & (X > -22) & (X < 3)
     dens = smooth(.08, .30, patch) * (Y > -1) * seen * np.where(town_zone, .25, 1)
     leafy = ('OakA', 'OakB', 'OakD', 'OakC', 'OakB', 'OakE', 'OakA')
-    kind = lambda x, y, k: ('FirA', 'FirB')[k < .4] if w.at(firs, x, y) + .3 * (k - .5) > .20 else leafy[int(k * 7)]
+    kind = lambda x, y, k: 'NearOak' if y < 3.5 else ('FirA', 'FirB')[k < .4] if w.at(firs, x, y) + .3 * (k - .5) > .20 else leafy[int(k * 7)]
     w.ceiling = lambda *a: True
     w.wood(dens * (Y < 34), .95, kind, (1.1, 1.9), 0)
     w.wood(dens * (Y >= 34), 1.5, kind, (1.5, 2.6), 0)
     w.wood(.06 * seen * (Y > -1) * (Y < 45) * (sd > .5), 1.2, ('OakA', 'OakD', 'PopA', 'ShrA', 'OakC', 'ShrB', 'PopA', 'OakE'), (.9, 1.6), 0)
     w.wood(np.where((np.abs(sd - .5) < .25) & seen & (Y > -6), .30, 0), .6, ('ShrA', 'ShrB', 'Reeds', 'OakD', 'Reeds'), (.45, .9), 0)
     w.wood(.10 * seen * (Y < 2) * (Y > -8) * (sd > .5), .55, ('NearBush', 'ShrB', 'NearBush'), (.35, .75), 0)
-    for n, x, y, s, a in (('NearOak', -7.4, -6.2, 4.6, 0), ('NearOak', -9.6, -3.2, 4.4, 130), ('NearOak', 7.9, -6.0, 4.3, 220), ('NearOak', 10.6, -3.0, 4.2, 40), ('NearBush', -5.0, -6.6, 1.7, 0), ('NearBush', -3.9, -7.0, 1.1, 80),
+    for n, x, y, s, a in (('NearOak', -7.4, -6.2, 4.6, 0), ('NearOak', -9.6, -3.2, 4.4, 130), ('NearOak', 7.9, -6.0, 4.3, 220), ('NearOak', 10.6, -3.0, 4.2, 40), ('NearBush', -5.0, -6.6, 1.7, 0), ('NearBush', -7.1, -7.6, 1.9, 30), ('NearBush', 7.6, -7.4, 1.7, 70), ('NearBush', -3.9, -7.0, 1.1, 80),
                           ('NearBush', 6.3, -7.0, 1.5, 10), ('NearBush', 5.5, -7.4, 1.0, 60), ('NearBush', -6.2, -4.9, 1.5, 200), ('NearBush', 8.0, -4.0, 1.5, 100)):
         w.put(n, x, y, s, a, .05)
-    for k in range(420):
+    for k in range(700):
         x, y = r.uniform(-6.6, 6.6), r.uniform(-8.2, -1.5)
         if w.at(sd, x, y) > .5 and not w.at(w.busy, x, y) and w.at(patch, x * 3, y * 3) + .3 * r.randn() > .1:
-            w.put(('BloomA', 'BloomB', 'BloomC', 'BloomD')[r.randint(4)], x, y, .12 + .08 * r.rand(), 0, .01)
+            w.put(('BloomA', 'BloomB', 'BloomC', 'BloomD')[r.randint(4)], x, y, .17 + .10 * r.rand(), 0, .01)
 
 
 def sky():
@@ -225,7 +226,9 @@ def sky():
 
 
 def main():
+    fine, country.R = country.R, 20             # a wider land, fewer points a unit
     land()
+    country.R = fine
     ss, dome = (2, 5) if DRAFT else (3, 12)
     t = time.time()
     b = povray('menu', 0, W, H, ss, ['DomeN=%d' % dome]) * 2
@@ -235,11 +238,11 @@ def main():
     far = np.where(hit > 0, dist, 200.)
     line = np.clip((outline_rel(far, ss) - .035) / .05, 0, 1) * obj
     b = b * (1 - line[..., None] * .38 * np.exp(-dist / 45)[..., None])
-    haze = (1 - np.exp(-(np.clip(dist - 8, 0, None) / 105) ** 1.5))[..., None]
+    haze = (1 - np.exp(-(np.clip(dist - 8, 0, None) / 135) ** 1.5))[..., None]
     b = b * (1 - haze) + to_lin(np.array([.84, .80, .76])) * haze
     cov = box_down(hit, ss)[..., None]
     col = box_down(b * hit[..., None], ss) / np.maximum(cov, 1e-6)
-    col = grade(col, 1.0, 1.06, 1.12, .48)
+    col = grade(col, 1.02, 1.03, 1.12, .48)
     img = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(sky()))
     img = unsharp(img, np.ones((H, W), bool), .35, .8)
     save_rgb('panel/menu', img)

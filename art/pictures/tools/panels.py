@@ -78,8 +78,8 @@ def plate(w, h, base, seed, r=5, field=None, frame=5):
     rim = np.clip(1 - np.abs(d - .35) / .8, 0, 1)[..., None]
     img = img * (1 - .7 * rim) + np.array([172, 158, 126]) / 255. * .7 * rim
     out = np.clip(.2 - d, 0, 1)[..., None]                          # beyond the rounded corners
-    img = img * (1 - out) + base * out
-    return settle(img)
+    img = img * (1 - out) + SKY * out
+    return img if field is vignette else settle(img)
 
 
 def settle(img, least=.318):
@@ -151,7 +151,7 @@ def main():
     for name, w, h, base, seed, field in (
             ('Image3', 623, 37, SKY, 11, dividers(170, 321, 464)), ('Image2', 141, 157, SKY, 12, None),
             ('Image7', 145, 34, SKY, 13, None), ('Image11', 145, 80, SKY, 14, views_field),
-            ('Image10', 145, 55, SKY, 15, None), ('Image9', 145, 34, SKY, 16, None),
+            ('Image10', 145, 55, SKY, 15, vignette), ('Image9', 145, 34, SKY, 16, None),
             ('Image5', 145, 34, SKY, 17, None), ('Image4', 145, 34, SKY, 18, None),
             ('Image6', 145, 258, SKY, 19, tools_field), ('Image8', 178, 37, SKY, 20, None)):
         save_rgb('panel/' + name, plate(w, h, base, seed, field=field, frame=4 if h > 40 else 5))
@@ -159,6 +159,15 @@ def main():
         save_rgb('panel/' + name, plate(155, 33, PALE, 40 + i))
     marks()
     icon()
+
+
+def vignette(img, d, box=(4, 73, 504, 263)):
+    """The castle and the roofs below it, small, from the picture behind the menus."""
+    h, w = img.shape[:2]
+    a = Image.open(path('panel/menu')).convert('RGB').resize((w, h), Image.LANCZOS, box)
+    a = np.asarray(a, float) / 255
+    a = unsharp(a, np.ones((h, w), bool), .5, .7)
+    return np.clip(a * 1.04 + .02, 0, 1)
 
 
 def drawn(w, h, base, shape, colour, S=8):
