@@ -168,7 +168,9 @@ void Font::draw(Surface& target, const Rect& clip, int x, int y, std::string_vie
   const Rect area = intersection(clip, target.bounds());
   const int base = y + implementation_->base[number(size)];
   int pen = x;
-  while (!text.empty() && pen < area.right()) {
+  // A letter may begin a little to the left of its pen, never a letter's height.
+  const int end = area.right() + kPixels[number(size)];
+  while (!text.empty() && pen < end) {
     const Glyph& glyph = implementation_->glyph(takeCharacter(text), number(size));
     const Rect box{pen + glyph.left, base - glyph.top, glyph.width, glyph.height};
     const Rect seen = intersection(box, area);
