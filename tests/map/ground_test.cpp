@@ -80,17 +80,11 @@ TEST(Ground, OnlyTheWalledTownSetsTallFlagsAndNoneIsCleared) {
     readmap(city.game, city.values, random);
     const bool walled = mission == 9 || mission == 10;
     int tall = 0;
-    for (int y = 0; y <= 30; ++y) {
-      for (int x = 0; x <= 30; ++x) {
-        tall += city.game.cellTall(x, y);
-        EXPECT_EQ(city.game.tileCode(x, y), 0);
-      }
-    }
+    eachPixel(31, 31, [&](int x, int y) { tall += city.game.cellTall(x, y); });
     EXPECT_EQ(tall, walled ? 1 + 27 : 1);
-    EXPECT_EQ(city.game.tileImage(9, 22), walled ? 59 : 20);
-    EXPECT_EQ(city.game.tileImage(22, 21), walled ? 60 : 20);
-    for (const auto& [x, y] : {std::pair{15, 22}, {22, 22}, {22, 15}}) {
-      EXPECT_EQ(city.game.tileImage(x, y), walled ? 61 : 20);
+    for (const auto& [x, y, image] :
+         {std::tuple{9, 22, 59}, {22, 21, 60}, {15, 22, 61}, {22, 22, 61}, {22, 15, 61}}) {
+      EXPECT_EQ(city.game.tileImage(x, y), walled ? image : 20);
     }
     EXPECT_EQ(city.game.tileImage(8, 22), 20);
   }

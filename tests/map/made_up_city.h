@@ -33,16 +33,20 @@ inline bool same(const Surface& a, const Surface& b) {
   return std::memcmp(a.row(0), b.row(0), a.stride() * static_cast<std::size_t>(a.height())) == 0;
 }
 
+/// Calls use(x, y) for every pixel of a box.
+template <class Use>
+void eachPixel(int width, int height, Use use) {
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) use(x, y);
+  }
+}
+
 /// The smallest box around all pixels that are not black.
 inline platform::Rect drawnBox(const Surface& surface) {
   platform::Rect box{};
-  for (int y = 0; y < surface.height(); ++y) {
-    for (int x = 0; x < surface.width(); ++x) {
-      if (surface.pixel(x, y) != platform::kBlack) {
-        box = platform::boundingBox(box, {x, y, 1, 1});
-      }
-    }
-  }
+  eachPixel(surface.width(), surface.height(), [&](int x, int y) {
+    if (surface.pixel(x, y) != platform::kBlack) box = platform::boundingBox(box, {x, y, 1, 1});
+  });
   return box;
 }
 
@@ -87,6 +91,7 @@ class MadeUpCity {
     DrawTiles32(anew, kFlatCells);
     DrawTiles2(anew, kTallCells);
     unmarkCells(game, 0, core::kLastCell);
+    game.blitCount = 0;
     return fresh.surface().clone();
   }
 
@@ -98,26 +103,21 @@ class MadeUpCity {
     const auto [width, height] = file.size;
     Surface black(width, height);
     Surface white(width, height);
-    white.clear(platform::kWhite);
+    black.clear(colorOf(file.number));
+    white.clear(colorOf(file.number));
+    const int top = height == 64 ? 32 : 0;
     const bool alongY = n == 56 || (n >= 22 && n <= 24) || n == 38 || n == 39;
-    if (height > 64) {
-      black.clear(colorOf(file.number));
-      white.clear(colorOf(file.number));
-    }
-    for (int y = 0; y < height && height <= 64; ++y) {
-      for (int x = 0; x < width; ++x) {
-        Color color = colorOf(file.number);
-        if (n == 1) color = stripe(x + 2 * y);
-        if (n == 2) color = stripe(x - 2 * y);
-        if (width == 12 && (n > 55 || x < 2 || x > 9 || y < 1 || y > 15)) {
-          color = alongY ? stripe(20 + x + 2 * (6 + y)) : stripe(24 + x - 2 * (2 + y));
-        }
-        const int top = height == 64 ? 32 : 0;
-        if (width > 12 && y >= top && !inDiamond(x, y - top)) continue;
-        white.setPixel(x, y, n == 20 ? platform::kBlack : color);
-        black.setPixel(x, y, n == 20 ? platform::kBlack : color);
+    eachPixel(width, height > 64 ? 0 : height, [&](int x, int y) {
+      Color color = n == 20 ? platform::kBlack : colorOf(file.number);
+      if (n == 1) color = stripe(x + 2 * y);
+      if (n == 2) color = stripe(x - 2 * y);
+      if (width == 12 && (n > 55 || x < 2 || x > 9 || y < 1 || y > 15)) {
+        color = alongY ? stripe(20 + x + 2 * (6 + y)) : stripe(24 + x - 2 * (2 + y));
       }
-    }
+      const bool outside = width > 12 && y >= top && !inDiamond(x, y - top);
+      white.setPixel(x, y, outside ? platform::kWhite : color);
+      black.setPixel(x, y, outside ? platform::kBlack : color);
+    });
     using enum PictureFile::Kind;
     if (file.kind != tile) pictures.picMask[n] = std::move(black);
     if (file.kind != mask) pictures.picTile[n] = std::move(white);
