@@ -144,9 +144,11 @@ int Desk::entryOfOpenList(Point screen) const {
 
 void Desk::pick(int list, int entry) {
   ListContent& content = *control(list).list;
+  openList_ = openListRow_ = -1;
+  // The entries may have become fewer since the pointer chose one.
+  if (entry >= static_cast<int>(content.items.size())) return;
   content.selected = entry;
   control(list).text.assign(content.items[static_cast<std::size_t>(entry)]);
-  openList_ = openListRow_ = -1;
   if (listener_ != nullptr) listener_->onChoose(list);
 }
 

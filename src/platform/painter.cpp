@@ -47,9 +47,11 @@ std::uint64_t lookOf(const Control& control, const Rect& place) {
   return look.value();
 }
 
-std::uint64_t lookOfOpenList(const ListContent& list, int row) {
+std::uint64_t lookOfOpenList(const Control& control, int row) {
+  const ListContent& list = *control.list;
   Look look;
   look.with(row).with(list.selected);
+  look.with(control.fore.r).with(control.fore.g).with(control.fore.b);
   for (const std::string& item : list.items) look.with(item);
   return look.value();
 }
@@ -209,8 +211,8 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
 
   Floating list;
   if (held.open >= 0) {
-    const ListContent& content = *(*form)[held.open].list;
-    list = {withShadow(desk.openListPlace()), lookOfOpenList(content, desk.openListRow())};
+    list = {withShadow(desk.openListPlace()),
+            lookOfOpenList((*form)[held.open], desk.openListRow())};
   }
   Floating tooltip;
   const char* tip = desk.tooltip(now);
