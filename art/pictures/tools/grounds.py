@@ -36,7 +36,7 @@ class Meadow:
     two variants meet without an edge and no lattice shows; grain and tufts are
     finer than an edge can be seen, and they run on over the cell's border."""
 
-    def __init__(self, seed, tufts, tone=0.0, mottle=1.3):
+    def __init__(self, seed, tufts, tone=0.0, mottle=.95):
         """tone: how much lighter and yellower than the middle of the ramp;
         towards the rim the pixels of that tone thin out, so that two tones
         melt into one another."""
@@ -46,7 +46,7 @@ class Meadow:
         rim = np.clip(edge / .3, 0, 1)
         mot = torus_noise(4, seed + 50) * .65 + torus_noise(9, seed + 60) * .35 - .5
         self.tone = tone * (r.rand(32, 64) < .5 + .5 * np.clip(edge / .24, 0, 1))
-        self.t = 2.4 + mottle * mot * rim + r.randn(32, 64) * .26 + self.tone
+        self.t = 2.4 + mottle * mot * rim + r.randn(32, 64) * .24 + self.tone
         for _ in range(tufts):                   # little blades, in loose groups
             x, y = r.randint(0, 64), r.randint(0, 32)
             for _ in range(r.randint(1, 5)):
@@ -54,12 +54,12 @@ class Meadow:
 
     def blade(self, x, y):
         r = self.r
-        top = r.uniform(2.8, 3.9)
+        top = r.uniform(2.7, 3.7)
         self.put(x, y, top)
         self.put(x, y + 1, top - .9)
         if r.rand() < .6:
             self.put(x + r.choice([-1, 1]), y + 1, top - .4)
-        self.put(x + 1, y + 2, 1.3 + r.rand() * .5)       # its shade, lower right
+        self.put(x + 1, y + 2, 1.5 + r.rand() * .5)       # its shade, lower right
 
     def put(self, px, py, val):
         x, y = wrap(px, py)
