@@ -1,0 +1,263 @@
+// Each mission and each puzzle, won and lost at its judgement, on both sides of every comparison.
+#include <gtest/gtest.h>
+
+#include "scenario/missions.h"
+#include "shell/script_runner.h"
+
+namespace {
+
+using script::Play;
+
+/// A running game of the given mission, one second before the month roll into a year.
+void bringToJudgement(Play& play, int mission, int year) {
+  play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
+  play.run("set gMission " + std::to_string(mission) + "\nset gYear " + std::to_string(year - 1));
+  play.run("set month 12\nset tickOfMonth 30\nset famineState 0");
+}
+
+struct Judgement {
+  int mission;
+  int year;
+  const char* enough;                  // just enough of everything
+  std::vector<const char*> tooLittle;  // each alone is not
+};
+
+// At the roll food is eaten first (a quarter of the people), and the king's aid has come.
+const Judgement kJudgements[] = {
+    {1, 1717, "set population 500\nset food 1625", {"set population 499", "set food 1624.9"}},
+    {2,
+     1719,
+     "set population 1000\nset gold 2500\nset churchRating 75",
+     {"set population 999", "set gold 2499.99", "set churchRating 74"}},
+    {3,
+     1720,
+     "set population 1000\nset food 2250\nset gold 2000",
+     {"set population 999", "set food 2249", "set gold 1999.9"}},
+    {4, 1721, "set population 1000", {"set population 999"}},
+    {5, 1723, "set population 1500\nset gold 6000", {"set population 1499", "set gold 5999.9"}},
+    {6,
+     1725,
+     "set population 1750\nset food 1437.5\nset gold 1000",
+     {"set population 1749", "set food 1437", "set gold 999"}},
+    {7,
+     1727,
+     "set population 1000\nset marketRating 90\nset schoolRating 90\nset tavernRating 90\n"
+     "set churchRating 90\nset doctorRating 90",
+     {"set population 999", "set marketRating 89", "set schoolRating 89", "set tavernRating 89",
+      "set churchRating 89", "set doctorRating 89", "set tileImage 30 30 19",
+      "set tileImage 0 0 4"}},
+    {8,
+     1729,
+     "set population 1250\nset marketRating 100\nset schoolRating 100\nset tavernRating 100\n"
+     "set churchRating 100\nset doctorRating 100",
+     {"set population 1249", "set marketRating 99", "set doctorRating 99", "set tileImage 9 9 19"}},
+    {9, 1730, "set population 750", {"set population 749"}},
+};
+
+/// Keeps the people that were set: none move in or out.
+void settle(Play& play) {
+  const std::string people = play("get population").substr(3);
+  play.run("set housingCapacity " + people);
+}
+
+std::string caption(Play& play, const std::string& control) {
+  const std::string answer = play("control " + control);
+  const std::size_t at = answer.find("\"text\":\"") + 8;
+  return answer.substr(at, answer.find("\",\"color", at) - at);
+}
+
+TEST(Missions, AreWonWithJustEnoughAndHandTheirCityOver) {
+  for (const Judgement& judged : kJudgements) {
+    SCOPED_TRACE(judged.mission);
+    Play play;
+    bringToJudgement(play, judged.mission, judged.year);
+    play.run(judged.enough);
+    settle(play);
+    play.run("advance 1000");
+    const std::string next = std::to_string(judged.mission + 1);
+    EXPECT_EQ(caption(play, "Command4"), "MISSION COMPLETED");
+    EXPECT_EQ(play("timer Timer9"), "ok on 1000");
+    EXPECT_EQ(play("timer Timer2"), "ok off 1000");
+    EXPECT_EQ(play.file("config.dat"), next + ",0,0,0,0,0,0,0,0,0,0,0\r\n");
+    EXPECT_TRUE(play.file("mission" + next + ".dat").starts_with(next + ","));
+    play.run("advance 1000");
+    EXPECT_EQ(play("screen"), "ok firstmenu");
+    EXPECT_EQ(caption(play, "Frame1"), "MISSION " + next);
+    EXPECT_EQ(caption(play, "cpgninfo"),
+              scenario::letter(judged.mission + 1, scenario::LetterSet::homecoming));
+  }
+}
+
+TEST(Missions, AreLostWhenAnythingFallsShort) {
+  for (const Judgement& judged : kJudgements) {
+    for (const char* tooLittle : judged.tooLittle) {
+      SCOPED_TRACE(std::to_string(judged.mission) + " " + tooLittle);
+      Play play;
+      bringToJudgement(play, judged.mission, judged.year);
+      play.run(judged.enough);
+      play.run(tooLittle);
+      settle(play);
+      play.run("advance 1000");
+      EXPECT_EQ(caption(play, "Command4"), "MISSION FAILED");
+      EXPECT_EQ(play("timer Timer11"), "ok on 1000");
+      EXPECT_EQ(play("timer Timer2"), "ok on 1000");
+      EXPECT_EQ(play("get gMission"), "ok " + std::to_string(judged.mission));
+      EXPECT_EQ(play.file("config.dat"), "1,0,0,0,0,0,0,0,0,0,0,0\r\n");
+      play.run("advance 1000\nclick mainnew");
+    }
+  }
+}
+
+TEST(Missions, TheLastTwoAreWonInOneTick) {
+  Play play;
+  bringToJudgement(play, 9, 1730);
+  play.run("set population 1250");
+  settle(play);
+  play.run("advance 1000");
+  EXPECT_EQ(play("get gMission"), "ok 11");
+  EXPECT_TRUE(play.file("mission10.dat").starts_with("10,"));
+  EXPECT_TRUE(play.file("config.dat").starts_with("11,"));
+  play.run("advance 1000");
+  EXPECT_EQ(caption(play, "Frame1"), "CONGRATULATIONS");
+  EXPECT_EQ(caption(play, "goalinfo"), " You completed the campaign");
+  play.run("click Command14\nadvance 1000");
+  EXPECT_EQ(play("screen"), "ok firstmenu");
+}
+
+TEST(Missions, WonAgainLeaveTheProgressAndShowTheHighestLetter) {
+  Play play;
+  play.write("config.dat", "5,77,0,1,0,0,0,0,0,0,0,0\r\n");
+  play.restart();
+  bringToJudgement(play, 1, 1717);
+  play.run("set population 600\nset food 9000");
+  settle(play);
+  play.run("advance 2000");
+  EXPECT_EQ(play.file("config.dat"), "5,77,0,1,0,0,0,0,0,0,0,0\r\n");
+  EXPECT_TRUE(play.file("mission2.dat").starts_with("2,"));
+  EXPECT_EQ(play("get gReplayedMission"), "ok 1");
+  EXPECT_EQ(caption(play, "Frame1"), "MISSION 5");
+  // Won with its successor just reached: no replay.
+  play.restart();
+  bringToJudgement(play, 4, 1721);
+  play.run("set population 1000");
+  settle(play);
+  play.run("advance 1000");
+  EXPECT_EQ(play("get gReplayedMission"), "ok 0");
+  EXPECT_TRUE(play.file("config.dat").starts_with("5,77,"));
+}
+
+TEST(Missions, TheCityGoesOnWithItsPaymentAndAnEmptyBook) {
+  struct Continued {
+    int mission;
+    const char* food;
+    const char* gold;
+    const char* year;
+  };
+  for (const auto& [mission, food, gold, year] :
+       {Continued{2, "3500", "7000", "1717"}, Continued{3, "5000", "4500", "1719"},
+        Continued{5, "5000", "7000", "1721"}, Continued{6, "5000", "1000", "1723"},
+        Continued{8, "5000", "7000", "1750"}, Continued{10, "5000", "7000", "1750"}}) {
+    SCOPED_TRACE(mission);
+    Play play;
+    const std::string number = std::to_string(mission);
+    play.write("config.dat", number + ",0,0,0,0,0,0,0,0,0,0,0\r\n");
+    play.restart();
+    // A small city is saved under the name of the hand-over file.
+    play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
+    play.run("press @15,15\nclick Command1 0\npress @16,15\nset gMission " + number);
+    play.run("set gYear 1750\nset food 5000\nset gold 7000\nset historyIndex 7\nset month 5");
+    play.run("set toolUnlocked 1 1\nclick gmmenu\nclick savegame\nclick txtsavename\ntype city");
+    play.run("click cmdsave\nclick gmmenu\nclick Command19");
+    play.write("mission" + number + ".dat", play.file("city.sav"));
+    play.run("click mainnew\nclick stcampaign\nclick Label6 " + std::to_string(mission - 1));
+    play.run("click Command14\nadvance 500");
+    EXPECT_EQ(play("get food"), std::string("ok ") + food);
+    EXPECT_EQ(play("get gold"), std::string("ok ") + gold);
+    EXPECT_EQ(play("get gYear"), std::string("ok ") + year);
+    EXPECT_EQ(play("get month"), "ok 1");
+    EXPECT_EQ(play("get history 7 1"), "ok 0");
+    EXPECT_EQ(play("get historyIndex"), "ok 7");
+    EXPECT_EQ(play("get currentTool"), "ok 10");
+    EXPECT_EQ(play("get tileImage 16 15"), "ok 4");
+    EXPECT_EQ(play("timer Timer2"), "ok on 1000");
+    EXPECT_TRUE(play("control Command1 4").find("\"visible\":true") != std::string::npos);
+    EXPECT_TRUE(play("control Command1 2").find("\"visible\":false") != std::string::npos);
+  }
+}
+
+TEST(Missions, AHandOverFileThatFailsLeadsBackToTheMenu) {
+  Play play;
+  play.write("config.dat", "3,0,0,0,0,0,0,0,0,0,0,0\r\n");
+  play.write("mission3.dat", "3,8,0\r\n");
+  play.restart();
+  for (const char* row : {"1", "2"}) {
+    play.run(std::string("click mainnew\nclick stcampaign\nclick Label6 ") + row);
+    play.run("click Command14\nadvance 500");
+    EXPECT_NE(play("box").find("mission"), std::string::npos);
+    play.run("click OK");
+    EXPECT_EQ(play("screen"), "ok firstmenu");
+  }
+  play.run("click mainnew");
+}
+
+struct PuzzleEnd {
+  int level;
+  const char* enough;
+  const char* tooLittle;
+};
+
+TEST(Puzzles, EndWhenTheirGoalIsReachedAndOnlyGoldCanBeMissed) {
+  // Tents are counted by picture over the whole map.
+  const auto tents = [](int cells) {
+    std::string commands;
+    for (int n = 0; n < cells; ++n) {
+      commands += "set tileImage " + std::to_string(n % 31) + " " + std::to_string(n / 31) + " 4\n";
+    }
+    return commands;
+  };
+  const std::string tents22 = tents(88), tents23 = tents(92), tents24 = tents(96);
+  const std::string tents21 = tents(87), tents22b = tents(91), tents23b = tents(95);
+  const PuzzleEnd ends[] = {
+      {1, "set population 60", "set population 59"},
+      {2, tents22.c_str(), tents21.c_str()},
+      {3, "set gYear 1716\nset gold 1600", "set gYear 1716\nset gold 1599.9"},
+      {4, "set population 200", "set population 199"},
+      {5, tents23.c_str(), tents22b.c_str()},
+      {6, "set gYear 1716\nset gold 1050", "set gYear 1716\nset gold 1049"},
+      {7, "set population 450", "set population 449"},
+      {8, "set population 900", "set population 899"},
+      {9, tents24.c_str(), tents23b.c_str()},
+      {10, "set gYear 1716\nset gold 2000", "set gYear 1716\nset gold 1999"},
+  };
+  for (const PuzzleEnd& end : ends) {
+    SCOPED_TRACE(end.level);
+    const bool gold = end.level == 3 || end.level == 6 || end.level == 10;
+    Play play;
+    play.write("config.dat", "4,9,0,0,0,0,0,0,0,0,0,0\r\n");
+    play.restart();
+    const std::string row = std::to_string(end.level - 1);
+    for (const bool enough : {false, true}) {
+      play.run("click mainnew\nclick stpuzzle\nclick Label20 " + row + "\nadvance 500");
+      EXPECT_EQ(play("get gMission"), "ok " + std::to_string(19 + end.level));
+      play.run(enough ? end.enough : end.tooLittle);
+      // The tick of the game comes first: people who were set stay, and gold moves by nothing.
+      settle(play);
+      play.run("advance 1000");
+      const bool over = enough || gold;
+      EXPECT_EQ(play("timer Timer15"), over ? "ok on 1000" : "ok off 1000");
+      if (over) {
+        EXPECT_EQ(caption(play, "Command4"), enough ? "MISSION COMPLETED" : "MISSION FAILED");
+        play.run("advance 1000");
+        EXPECT_EQ(play("get gReturnPuzzle"), "ok 0");
+        play.run("click Command23\nclick stback");
+      } else {
+        play.run("click gmmenu\nclick Command19");
+      }
+      std::string flags;
+      for (int n = 1; n <= 10; ++n) flags += n == end.level && enough ? ",1" : ",0";
+      EXPECT_EQ(play.file("config.dat"), "4,9" + flags + "\r\n");
+    }
+  }
+}
+
+}  // namespace
