@@ -61,9 +61,9 @@ TEST(Scaler, WholeFactorsAreTakenWhereTheyNearlyFillAndTheAspectIsKept) {
 }
 
 TEST(Scaler, PartsGiveWhatTheWholeGivesAndNothingBeyondThemIsTouched) {
-  Surface picture = patterned();
   for (const Size display : {kPicture, Size{1600, 1200}, Size{1366, 768}, Size{1920, 1080},
                              Size{640, 480}, Size{500, 900}}) {
+    Surface picture = patterned();
     Scaler scaler(kPicture, display);
     Screen pieced(display);
     scaler.scale(picture, scaler.place(), pieced.memory());
