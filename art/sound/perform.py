@@ -1,7 +1,7 @@
 """Plays a score: turns its sections into timed notes with a player's dynamics and timing.
 
-Everything that deviates from the page comes from one generator seeded by the
-score, so that a score gives the same notes each time.
+Everything that deviates from the page comes from generators seeded by the score, so
+that a score gives the same notes each time.
 """
 import math
 import random
@@ -311,8 +311,10 @@ class Performance:
         return total
 
     def _deviate(self):
-        rng = random.Random(self.score.seed)
+        # A generator for each part, so that a change to one leaves the others as they were.
+        parts = {p: random.Random(f'{self.score.seed} {p.name}') for p in self.score.parts.values()}
         for note in self.notes:
+            rng = parts[note.part]
             ms = max(-2.2, min(2.2, rng.gauss(0, 1))) * note.part.ms
             note.start = max(0, note.start + ms / 1000 * self.score.tempo / 60)
             velocity = note.velocity + rng.gauss(0, 1) * note.part.spread

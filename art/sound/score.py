@@ -8,11 +8,10 @@ import re
 LENGTH = {'w': 4, 'h': 2, 'q': 1, 'e': .5, 's': .25}
 LETTER = {'C': 0, 'D': 2, 'E': 4, 'F': 5, 'G': 7, 'A': 9, 'B': 11}
 SIGN = {'': 0, '#': 1, 'b': -1}
-DYNAMIC = {'ppp': 46, 'pp': 56, 'p': 66, 'mp': 77, 'mf': 88, 'f': 99, 'ff': 109}
+DYNAMIC = {'pp': 56, 'p': 66, 'mp': 77, 'mf': 88, 'f': 99, 'ff': 109}
 MODE = {'major': (0, 2, 4, 5, 7, 9, 11), 'minor': (0, 2, 3, 5, 7, 8, 10),
         'dorian': (0, 2, 3, 5, 7, 9, 10), 'mixolydian': (0, 2, 4, 5, 7, 9, 10)}
-CHORD = {'': (0, 4, 7), 'm': (0, 3, 7), '7': (0, 4, 7, 10), 'm7': (0, 3, 7, 10),
-         'o': (0, 3, 6), 'sus': (0, 5, 7), '5': (0, 7)}
+CHORD = {'': (0, 4, 7), 'm': (0, 3, 7), '7': (0, 4, 7, 10)}
 # The hand drums of the percussion track: (delay in quarters, key, change of velocity).
 DRUM = {'L': [(0, 64, 0)], 'h': [(0, 63, -8)], 't': [(0, 54, -26)],
         'g': [(0, 81, -24)],
@@ -38,18 +37,17 @@ def pitch(name):
 
 
 class Chord:
-    """A chord name such as Dm, G/B, A7 or Csus."""
+    """A chord name such as Dm, G/B or A7."""
 
     def __init__(self, name):
-        m = re.fullmatch(r'([A-G][#b]?)(m7|m|7|o|sus|5|)(?:/([A-G][#b]?))?', name)
+        m = re.fullmatch(r'([A-G][#b]?)(m|7|)(?:/([A-G][#b]?))?', name)
         if not m:
             raise ScoreError(f'no such chord: {name}')
         self.name = name
         root = pitch_class(m[1])
         self.tones = [(root + step) % 12 for step in CHORD[m[2]]]
         self.bass = pitch_class(m[3]) if m[3] else root
-        self.third = self.tones[1] if len(self.tones) > 2 else root
-        self.fifth = self.tones[-1] if m[2] == '5' else self.tones[2]
+        self.third, self.fifth = self.tones[1:3]
 
 
 class Note:
