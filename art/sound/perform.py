@@ -221,7 +221,7 @@ class Performance:
         """Held chords of three voices; each voice moves as little as it can, common notes stay."""
         part, beats = row['part'], self.score.beats
         low = part.voicing
-        voices = [[low + 4, 0, 0, 0], [low + 8, 0, 0, 0], [low + 12, 0, 0, 0]]
+        voices = [low + 4, low + 8, low + 12]
         held = [None, None, None]
 
         def close(i, at):
@@ -234,15 +234,15 @@ class Performance:
             at = start + bar * beats
             for chord, length in section.chords[bar]:
                 taken = []
-                for i, voice in enumerate(voices):
+                for voice in voices:
                     options = [k for k in range(low, low + 20) if k % 12 in chord.tones and k not in taken]
-                    key = min(options, key=lambda k: (abs(k - voice[0]), k))
+                    key = min(options, key=lambda k: (abs(k - voice), k))
                     taken.append(key)
-                for i, key in enumerate(sorted(taken)):
+                voices = sorted(taken)
+                for i, key in enumerate(voices):
                     if not held[i] or held[i][0] != key or bar % self.score.phrase == 0:
                         close(i, at)
                         held[i] = (key, at, self._arc(section, bar, 0) - 14)
-                    voices[i][0] = key
                 at += length
             self._swell(part, start + bar * beats, beats, 90, 112, 90)
         for i in range(3):
