@@ -60,8 +60,8 @@ def land():
         w.put(n, x, y, s, a, z=-.05)
     for _ in range(9):
         w.put('Sheep', 1.9 + .8 * w.r.randn(), -.8 + .7 * w.r.randn(), .58 + .12 * w.r.rand(), 360 * w.r.rand())
-    for k in range(9):                                  # a fence on the far side of the meadow road
-        w.put('Rail', -.6 - .02 * k, -7.4 + .95 * k, .95, 91, 0)
+    for k in range(3):                                  # a fence before the sheep
+        w.put('Rail', -.5 + .93 * k, -3.0 + .10 * k, .95, 6)
     plants(w, sd)
     w.write()
 
@@ -151,20 +151,20 @@ def plants(w, sd):
     town_zone = (Y > 2) & (Y < 20) & (X > -22) & (X < 3)
     dens = smooth(.08, .30, patch) * (Y > -1) * seen * np.where(town_zone, .25, 1)
     leafy = ('OakA', 'OakB', 'OakD', 'OakC', 'OakB', 'OakE', 'OakA')
-    kind = lambda x, y, k: 'NearOak' if y < 3.5 else ('FirA', 'FirB')[k < .4] if w.at(firs, x, y) + .3 * (k - .5) > .20 else leafy[int(k * 7)]
+    kind = lambda x, y, k: 'NearOak' if y < 3.5 and k < .7 else ('FirA', 'FirB')[k < .4] if w.at(firs, x, y) + .3 * (k - .5) > .20 else leafy[int(k * 7)]
     w.ceiling = lambda *a: True
     w.wood(dens * (Y < 34), .95, kind, (1.1, 1.9), 0)
     w.wood(dens * (Y >= 34), 1.5, kind, (1.5, 2.6), 0)
     w.wood(.06 * seen * (Y > -1) * (Y < 45) * (sd > .5), 1.2, ('OakA', 'OakD', 'PopA', 'ShrA', 'OakC', 'ShrB', 'PopA', 'OakE'), (.9, 1.6), 0)
     w.wood(np.where((np.abs(sd - .5) < .25) & seen & (Y > -6), .30, 0), .6, ('ShrA', 'ShrB', 'Reeds', 'OakD', 'Reeds'), (.45, .9), 0)
     w.wood(.10 * seen * (Y < 2) * (Y > -8) * (sd > .5), .55, ('NearBush', 'ShrB', 'NearBush'), (.35, .75), 0)
-    for n, x, y, s, a in (('NearOak', -7.4, -6.2, 4.6, 0), ('NearOak', -9.6, -3.2, 4.4, 130), ('NearOak', 7.9, -6.0, 4.3, 220), ('NearOak', 10.6, -3.0, 4.2, 40), ('NearBush', -5.0, -6.6, 1.7, 0), ('NearBush', -7.1, -7.6, 1.9, 30), ('NearBush', 7.6, -7.4, 1.7, 70), ('NearBush', -3.9, -7.0, 1.1, 80),
+    for n, x, y, s, a in (('NearOak', -7.7, -6.2, 4.3, 0), ('NearOak', 7.9, -6.0, 4.3, 220), ('NearOak', 10.6, -3.0, 4.2, 40), ('NearBush', -5.0, -6.6, 1.7, 0), ('NearBush', -7.1, -7.6, 1.9, 30), ('NearBush', 7.6, -7.4, 1.7, 70), ('NearBush', -3.9, -7.0, 1.1, 80),
                           ('NearBush', 6.3, -7.0, 1.5, 10), ('NearBush', 5.5, -7.4, 1.0, 60), ('NearBush', -6.2, -4.9, 1.5, 200), ('NearBush', 8.0, -4.0, 1.5, 100)):
         w.put(n, x, y, s, a, .05)
-    for k in range(700):
+    for k in range(1100):
         x, y = r.uniform(-6.6, 6.6), r.uniform(-8.2, -1.5)
         if w.at(sd, x, y) > .5 and not w.at(w.busy, x, y) and w.at(patch, x * 3, y * 3) + .3 * r.randn() > .1:
-            w.put(('BloomA', 'BloomB', 'BloomC', 'BloomD')[r.randint(4)], x, y, .17 + .10 * r.rand(), 0, .01)
+            w.put(('BloomA', 'BloomB', 'BloomC', 'BloomD')[r.randint(4)], x, y, .13 + .09 * r.rand(), 0, .01)
 
 
 def sky():
