@@ -54,10 +54,6 @@ def rgb(s):
     return np.array([int(s[i:i + 2], 16) / 255 for i in (0, 2, 4)])
 
 
-def hexlin(s):
-    return to_lin(rgb(s))
-
-
 # --------------------------------------------------------------- files
 def save(path, img):
     """RGBA (binary alpha) or RGB uint8; no date or text goes into the file, so

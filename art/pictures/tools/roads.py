@@ -5,7 +5,12 @@ road along y takes entry px + 2 py - 32 and one of the road along x entry
 2 py - px + 32, so the picture does not change at all under a shift of (2, -1)
 or (2, 1): a walker's frame, which carries its own piece of road, lands on
 stripes that match.  Bends and junctions use the same table by the distance
-from the grass corner they turn round."""
+from the grass corner they turn round.
+
+One thing no picture can mend: the block of a walker that goes up and left
+reaches 16 pixels into the cell ahead when it ends.  There it lies on road
+unless the road ends there, and then those pixels stay on the meadow until the
+cell is painted again."""
 import numpy as np
 from iso import *
 from grounds import plain
