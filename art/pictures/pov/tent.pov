@@ -5,10 +5,10 @@
 #include "kit.inc"
 Ground()
 #declare Yr = 0.575; #declare Zr = 0.445;        // ridge along x
-#declare Xa = 0.56; #declare Xb = 0.88;          // ridge from, to
+#declare Xa = 0.55; #declare Xb = 0.86;          // ridge from, to
 #declare X0 = 0.30; #declare Y0 = 0.28; #declare Y1 = 0.88;
 #declare Band = C("C2A176"); #declare Rope = C("D8C49A");
-cylinder { 0, z*0.004, 0.40 scale <1.05,0.98,1> translate <0.60,0.58,0> mDirt(C("8F8050")) }
+cylinder { 0, z*0.004, 0.37 scale <1.05,0.98,1> translate <0.59,0.57,0> mDirt(C("8F8050")) }
 #declare N = 7;
 #declare I = 0;
 #while (I < N)                                   // lit slope in bands of canvas
