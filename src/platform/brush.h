@@ -44,7 +44,7 @@ class Brush {
   void line(Point from, Point to, Color color) const;
   /// A small triangle in the middle of the rectangle that points down or up.
   void arrow(const Rect& rect, bool down, Color color) const;
-  /// A picture stretched over `place`.
+  /// A picture at its own size, in the middle of `place`.
   void picture(const Rect& place, const Surface& source) const;
   /// One line of text; yellow text gets a dark rim so that it reads on light ground.
   void text(int x, int y, std::string_view text, FontSize size, Color color) const;

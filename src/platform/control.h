@@ -16,13 +16,13 @@
 namespace platform {
 
 enum class ControlKind : std::uint8_t {
-  frame,     // a panel that holds others, clipped to it; may have a caption
-  label,     // text, and the buttons of the side panel
-  button,    // a raised button with a centred caption
-  image,     // a picture that fills the control
-  picture,   // a drawing surface (a canvas)
-  line,      // a line of two pixels; the pointer goes through it
-  box,       // plain decoration: takes a press and does nothing with it
+  frame,    // a panel that holds others, clipped to it; may have a caption
+  label,    // text, and the buttons of the side panel
+  button,   // a raised button with a centred caption
+  image,    // a picture that fills the control
+  picture,  // a drawing surface (a canvas)
+  line,     // a line of two pixels; the pointer goes through it
+  box,      // plain decoration: takes a press and does nothing with it
   checkBox,
   dropDown,
   fileList,
@@ -45,17 +45,17 @@ inline constexpr int kSingle = -1;
 /// an earlier one of the same parent.
 struct ControlDesign {
   const char* name = nullptr;
-  int index = kSingle;          // number within an array of controls, or kSingle
+  int index = kSingle;  // number within an array of controls, or kSingle
   ControlKind kind = ControlKind::label;
-  int parent = kNoParent;       // row number of the frame or picture that holds it
-  Rect place{};                 // position in the parent, and size
+  int parent = kNoParent;  // row number of the frame or picture that holds it
+  Rect place{};            // position in the parent, and size
   const char* text = "";
   FontSize font = FontSize::pt11;
   Align align = Align::left;
   Color fore = kBlack;
   Color back = kBlack;
-  bool opaque = false;          // fills its box with `back`
-  bool border = false;          // a single line around it
+  bool opaque = false;  // fills its box with `back`
+  bool border = false;  // a single line around it
   bool visible = true;
   Heading heading = Heading::none;
   const char* image = nullptr;  // name of the picture of an image control
@@ -71,16 +71,16 @@ struct ListContent {
 
 struct Control {
   const ControlDesign* design = nullptr;
-  Rect place{};        // position in the parent, and size
-  Text text;           // a text box holds what was typed in it
+  Rect place{};  // position in the parent, and size
+  Text text;     // a text box holds what was typed in it
   Color fore{};
   Color back{};
   bool border = false;
   bool visible = true;  // its own flag; it is seen when all that hold it are visible too
   bool checked = false;
-  Point from{};         // end points of a line, in pixels of its parent
+  Point from{};  // end points of a line, in pixels of its parent
   Point to{};
-  int rank = 0;         // the higher of two siblings lies in front
+  int rank = 0;  // the higher of two siblings lies in front
   const Surface* image = nullptr;
   Canvas* canvas = nullptr;
   ListContent* list = nullptr;

@@ -71,7 +71,7 @@ void paintLabel(const Brush& brush, const Control& control, const Rect& place) {
   constexpr int kSparable = 4;
   if (text.empty() || place.height < 2 * step - kSparable) {
     Rect row = inside;
-    if (place.height > 2 * step) row.height = step;
+    if (place.height > 2 * step && design.align != Align::centre) row.height = step;
     brush.line(row, whole, design.font, control.fore, design.align);
     return;
   }
@@ -237,7 +237,9 @@ bool coversItsBox(const Control& control) {
     case ControlKind::checkBox:
       return control.design->opaque;
     case ControlKind::image:
-      return control.design->opaque || control.image != nullptr;
+      return control.design->opaque ||
+             (control.image != nullptr && control.image->width() >= control.place.width &&
+              control.image->height() >= control.place.height);
     case ControlKind::line:
       return false;
     default:

@@ -58,8 +58,8 @@ class Surface {
 
 /// Copies width x height pixels of `source` from (sourceX, sourceY) to (x, y) of `target` with one of
 /// the raster operations above. An unknown operation does nothing. Source and target must differ.
-void BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source, int sourceX,
-            int sourceY, std::uint32_t operation);
+void BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+            int sourceX, int sourceY, std::uint32_t operation);
 
 /// The same from a source rectangle of another size, by nearest pixel; equal sizes copy 1:1.
 void StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source,

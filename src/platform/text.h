@@ -12,7 +12,7 @@ class Text {
   static constexpr std::size_t kCapacity = 636;
 
   Text() = default;
-  Text(std::string_view text) { assign(text); }                  // NOLINT: written as plain text
+  Text(std::string_view text) { assign(text); }               // NOLINT: written as plain text
   Text(const char* text) { assign(std::string_view(text)); }  // NOLINT
 
   /// Takes the text; what goes beyond the capacity is cut at a whole UTF-8 character.
