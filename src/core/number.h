@@ -19,8 +19,15 @@ class Number {
   constexpr operator double() const { return isSet() ? value_ : 0.0; }  // NOLINT
   constexpr bool isSet() const { return std::bit_cast<std::uint64_t>(value_) != kUnset; }
   constexpr void unset() { value_ = std::bit_cast<double>(kUnset); }
-  /// The value as a whole number; what is stored must be whole and small enough.
-  constexpr int whole() const { return static_cast<int>(static_cast<double>(*this)); }
+  /// The value as a whole number, its fraction dropped; a value from a file that is beyond the range
+  /// gives the end of the range.
+  constexpr int whole() const {
+    constexpr double kEnd = std::numeric_limits<int>::max();
+    const double value = *this;
+    return value > kEnd     ? static_cast<int>(kEnd)
+           : value >= -kEnd ? static_cast<int>(value)
+                            : -static_cast<int>(kEnd);
+  }
 
   constexpr Number& operator+=(double d) { return *this = *this + d; }
   constexpr Number& operator-=(double d) { return *this = *this - d; }
