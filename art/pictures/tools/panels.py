@@ -78,7 +78,7 @@ def plate(w, h, base, seed, r=5, field=None, frame=5):
     rim = np.clip(1 - np.abs(d - .35) / .8, 0, 1)[..., None]
     img = img * (1 - .7 * rim) + np.array([172, 158, 126]) / 255. * .7 * rim
     out = np.clip(.2 - d, 0, 1)[..., None]                          # beyond the rounded corners
-    img = img * (1 - out) + SKY * out
+    img = img * (1 - out) + base * out
     return img if field is vignette else settle(img)
 
 
