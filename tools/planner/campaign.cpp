@@ -127,7 +127,8 @@ using Policy = std::function<void(int months)>;
 
 class Campaign {
  public:
-  Campaign(Player& player, std::string pictures) : player_(player), pictures_(std::move(pictures)) {}
+  Campaign(Player& player, std::string pictures)
+      : player_(player), pictures_(std::move(pictures)) {}
 
   void play(int mission, int judgedIn, bool takenOver, const Policy& policy) {
     player_.blankLine();
@@ -187,8 +188,8 @@ class Campaign {
  private:
   void report(int mission, const char* what) {
     core::GameState& game = player_.game();
-    std::printf("M%d %2d/%d %s people %g of %g, food %g, gold %.1f, tax %g, farms %g, ratings", mission,
-                static_cast<double>(game.month) > 0 ? game.month.whole() : 0,
+    std::printf("M%d %2d/%d %s people %g of %g, food %g, gold %.1f, tax %g, farms %g, ratings",
+                mission, static_cast<double>(game.month) > 0 ? game.month.whole() : 0,
                 player_.values().gYear.whole(), what, static_cast<double>(game.population),
                 static_cast<double>(game.housingCapacity), static_cast<double>(game.food),
                 static_cast<double>(game.gold), static_cast<double>(game.taxRate),
@@ -210,15 +211,28 @@ void show(const Town& town) {
 
 /// A town from its beginning: the nearest homes, then what they lack, then the rest.
 Wants townWants(const Mayor& mayor, std::size_t farms) {
-  return all({mayor.service(kMarkets, 0), mayor.homes(0, 10),
-              mayor.service(kChurches, 0), mayor.homes(10, 18), mayor.farms(0, std::min<std::size_t>(farms, 5)),
-              mayor.service(kSchools, 0), mayor.farms(5, std::min<std::size_t>(farms, 9)), mayor.homes(18, 24),
-              mayor.service(kDoctors, 0), mayor.farms(9, std::min<std::size_t>(farms, 13)),
-              mayor.service(kMarkets, 1), mayor.service(kChurches, 1),
-              mayor.service(kSchools, 1), mayor.homes(24, 99),
-              mayor.service(kDoctors, 1), mayor.service(kTaverns, 0),
-              mayor.service(kTaverns, 1), mayor.service(kDoctors, 2), mayor.service(kDoctors, 3),
-              mayor.service(kTaverns, 2), mayor.service(kTaverns, 3), mayor.farms(13, farms)});
+  return all({mayor.service(kMarkets, 0),
+              mayor.homes(0, 10),
+              mayor.service(kChurches, 0),
+              mayor.homes(10, 18),
+              mayor.farms(0, std::min<std::size_t>(farms, 5)),
+              mayor.service(kSchools, 0),
+              mayor.farms(5, std::min<std::size_t>(farms, 9)),
+              mayor.homes(18, 24),
+              mayor.service(kDoctors, 0),
+              mayor.farms(9, std::min<std::size_t>(farms, 13)),
+              mayor.service(kMarkets, 1),
+              mayor.service(kChurches, 1),
+              mayor.service(kSchools, 1),
+              mayor.homes(24, 99),
+              mayor.service(kDoctors, 1),
+              mayor.service(kTaverns, 0),
+              mayor.service(kTaverns, 1),
+              mayor.service(kDoctors, 2),
+              mayor.service(kDoctors, 3),
+              mayor.service(kTaverns, 2),
+              mayor.service(kTaverns, 3),
+              mayor.farms(13, farms)});
 }
 
 void playAll(Player& player, const std::string& pictures, bool verbose) {
@@ -269,11 +283,11 @@ void playAll(Player& player, const std::string& pictures, bool verbose) {
 
   const Town court = planTown({.first = 6,
                                .side = 19,
-                               .streets = {8, 13, 18},
+                               .streets = {8, 13, 18, 23},
                                .from = 6,
-                               .to = 20,
-                               .crossing = 13,
-                               .services = {0, 2, 1, 2, 2, 4}},
+                               .to = 18,
+                               .crossing = 12,
+                               .services = {0, 2, 2, 3, 2, 4}},
                               1, 40000);
   show(court);
   Town served = court;
@@ -291,8 +305,9 @@ void playAll(Player& player, const std::string& pictures, bool verbose) {
                           .streets = {11, 16, 19},
                           .from = 9,
                           .to = 21,
-                          .crossing = 15,
-                          .services = {0, 1, 1, 2, 1, 2}},
+                          .crossing = 13,
+                          .services = {0, 1, 1, 1, 2, 2},
+                          .fullyServed = 0},
                          1, 40000);
   castle.farms = {{9, 19}, {12, 19}, {15, 19}, {18, 19}};
   show(castle);
@@ -301,7 +316,7 @@ void playAll(Player& player, const std::string& pictures, bool verbose) {
     std::erase_if(list, [](const Want& want) { return want.at.y > 18; });
     return list;
   };
-  const Wants castleLater = townWants(castleMayor, 99);
+  const Wants castleLater = townWants(castleMayor, 0);
   Wants castleWants = all({castleMayor.service(kMarkets, 0), castleMayor.homes(0, 10),
                            castleMayor.service(kChurches, 0), castleMayor.homes(10, 99)});
   castleWants = all({above(castleWants), castleMayor.farms(0, 4), above(castleLater)});

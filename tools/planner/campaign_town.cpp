@@ -153,7 +153,7 @@ class Plots {
     for (std::size_t n = 0; n < at_.size(); ++n) {
       if (what_[n] != kHome) continue;
       const int count = servicesAt(n);
-      worth += 2 * count + 2 + (count == 5 ? 6 : 0);
+      worth += 2 * count + 2 + (count == 5 ? ground_.fullyServed : 0);
     }
     return worth;
   }

@@ -21,22 +21,23 @@ std::vector<Cell> ringOf(Cell at, int side);
 
 /// What the search starts from. Cells are those of the map.
 struct Ground {
-  int first = 0;                    // first cell in play, both ways
-  int side = 0;                     // cells in play each way
-  std::vector<int> streets;         // rows y that are streets
-  int from = 0;                     // first and last cell x of the streets
+  int first = 0;             // first cell in play, both ways
+  int side = 0;              // cells in play each way
+  std::vector<int> streets;  // rows y that are streets
+  int from = 0;              // first and last cell x of the streets
   int to = 0;
-  int crossing = 0;                 // column x of the street that joins the others
-  std::array<int, 6> services{};    // [k]: how many buildings of service k
+  int crossing = 0;               // column x of the street that joins the others
+  std::array<int, 6> services{};  // [k]: how many buildings of service k
+  double fullyServed = 6;         // worth of a residence with all five services, beyond its people
 };
 
 struct Town {
   int first = 0;
   int last = 0;
   std::vector<Cell> streets;
-  std::vector<Cell> homes;                     // nearest to the first market first
-  std::vector<int> served;                     // services that reach each of the homes
-  std::array<std::vector<Cell>, 6> services;   // [k]
+  std::vector<Cell> homes;                    // nearest to the first market first
+  std::vector<int> served;                    // services that reach each of the homes
+  std::array<std::vector<Cell>, 6> services;  // [k]
   std::vector<Cell> farms;
 
   bool isStreet(Cell cell) const;

@@ -1,0 +1,67 @@
+// Every level can be won by play alone: each script of tests/solutions starts at the menu, presses and
+// clicks, and says at its end how it must have come out.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "shell/script_runner.h"
+
+namespace {
+
+const std::string kFolder = VELLMORAN_SOURCE_DIR "/tests/solutions/";
+
+std::vector<std::string> solutions() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(kFolder)) {
+    if (entry.path().extension() == ".txt") names.push_back(entry.path().stem());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::string textOf(const std::string& name) {
+  std::ifstream in(kFolder + name + ".txt");
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+class Solution : public testing::TestWithParam<std::string> {};
+
+TEST_P(Solution, ComesOutAsItSays) {
+  script::playFile(kFolder + GetParam() + ".txt");
+}
+
+INSTANTIATE_TEST_SUITE_P(Solutions, Solution, testing::ValuesIn(solutions()),
+                         [](const auto& solution) { return solution.param; });
+
+// A script that sets a value, or feeds the generators, would prove nothing.
+TEST(SolutionFiles, PlayByPressesAndClicksAlone) {
+  ASSERT_FALSE(solutions().empty());
+  for (const std::string& name : solutions()) {
+    std::istringstream lines(textOf(name));
+    for (std::string line; std::getline(lines, line);) {
+      for (const char* foul : {"set ", "random ", "walkerrandom "}) {
+        EXPECT_FALSE(line.starts_with(foul)) << name << ": " << line;
+      }
+    }
+  }
+}
+
+TEST(SolutionFiles, SolvedLevelsAreRememberedByTheNextStart) {
+  script::Play play;
+  for (const char* name : {"puzzle01", "puzzle09"}) {
+    play.restart();
+    play.run(textOf(name));
+  }
+  play.restart();
+  for (int level = 1; level <= 10; ++level) {
+    const std::string expected = level == 1 || level == 9 ? "ok 1" : "ok 0";
+    EXPECT_EQ(play("get puzzleDone" + std::to_string(level)), expected) << level;
+  }
+}
+
+}  // namespace
