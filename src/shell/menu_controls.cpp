@@ -255,12 +255,12 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[command7].opaque = true;
   t[command7].border = true;
   t[command7].visible = false;
-  t[lblloading] = label("lblloading", kNoParent, {kParked, 263, 281, 73},
-                        "Please wait while loading...", FontSize::pt12, Align::centre);
-  t[lblloading].back = kPanel;
-  t[lblloading].opaque = true;
-  t[lblloading].border = true;
-  t[lblloading].visible = false;
+  // A panel like the others, so that it comes to the front when it is shown: after an earlier mission
+  // was played again the main panel still stands behind the briefing.
+  t[lblloading] = panel("lblloading", 281, 73);
+  t[lblloading].text = "Please wait while loading...";
+  t[loadingtext] = label("loadingtext", lblloading, {8, 8, 265, 57}, t[lblloading].text,
+                         FontSize::pt12, Align::centre);
   return t;
 }
 

@@ -120,6 +120,7 @@ enum Id : int {
   // Notices.
   command7,
   lblloading,
+  loadingtext,
   kCount,
 };
 

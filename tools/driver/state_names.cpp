@@ -150,12 +150,12 @@ bool findIn(Owner& owner, std::span<const Named<Owner>> names, std::string_view 
   return false;
 }
 
-/// The mark of a puzzle has a number at the end of its name: puzzleDone1 to puzzleDone10.
-int puzzleNumber(std::string_view name) {
-  constexpr std::string_view kPrefix = "puzzleDone";
-  if (!name.starts_with(kPrefix)) return 0;
-  name.remove_prefix(kPrefix.size());
-  for (int n = 1; n <= 10; ++n) {
+/// The number at the end of a name that has a number of its own instead of an index: puzzleDone1 to
+/// puzzleDone10, reserved1 to reserved15. 0 where there is none up to `last`.
+int numberBehind(std::string_view prefix, std::string_view name, int last) {
+  if (!name.starts_with(prefix)) return 0;
+  name.remove_prefix(prefix.size());
+  for (int n = 1; n <= last; ++n) {
     if (name == std::to_string(n)) return n;
   }
   return 0;
@@ -164,8 +164,11 @@ int puzzleNumber(std::string_view name) {
 template <class Use>
 bool find(State state, std::string_view name, std::span<const int> indices, std::string& error,
           Use use) {
-  if (const int n = puzzleNumber(name); n != 0) {
+  if (const int n = numberBehind("puzzleDone", name, 10); n != 0) {
     return wantIndices(indices, 0, error) && use(state.values->puzzleDone[n]);
+  }
+  if (const int n = numberBehind("reserved", name, 15); n != 0 && state.game != nullptr) {
+    return wantIndices(indices, 0, error) && use(state.game->reserved[n]);
   }
   bool known = false;
   if (findIn<ProgramValues>(*state.values, kProgramNames, name, indices, error, use, known)) {
