@@ -29,13 +29,19 @@ int sideOf(Tool tool) {
 std::string Player::run(const std::string& command) {
   const std::string answer = driver::run(*session_, command);
   if (!answer.starts_with("ok")) throw std::runtime_error(command + ": " + answer);
-  script_ += command + "\n";
+  write(command);
   return answer;
+}
+
+void Player::write(const std::string& line) {
+  if (unwritten_ > 0) script_ += "advance " + std::to_string(unwritten_) + "\n";
+  unwritten_ = 0;
+  script_ += line + "\n";
 }
 
 std::string Player::expect(const std::string& command) {
   const std::string answer = run(command);
-  script_ += "#= " + answer + "\n";
+  write("#= " + answer);
   return answer;
 }
 
@@ -51,7 +57,8 @@ void Player::gameOpened(bool takenOver) {
 
 void Player::advance(int milliseconds) {
   sinceOpening_ += milliseconds;
-  run("advance " + std::to_string(milliseconds));
+  unwritten_ += milliseconds;
+  session_->advance(milliseconds);
 }
 
 void Player::tick() {

@@ -21,9 +21,11 @@ class Player {
   std::string run(const std::string& command);
   /// Runs a command and writes it down with its answer as what must come.
   std::string expect(const std::string& command);
-  void remark(const std::string& text) { script_ += "# " + text + "\n"; }
-  void blankLine() { script_ += "\n"; }
+  void remark(const std::string& text) { write("# " + text); }
+  void blankLine() { write(""); }
   const std::string& script() const { return script_; }
+  /// Lets time pass.
+  void advance(int milliseconds);
   /// Runs a command that is no part of the play: a picture.
   void aside(const std::string& command);
 
@@ -46,7 +48,7 @@ class Player {
   void setSpeed(int ticks);
 
  private:
-  void advance(int milliseconds);
+  void write(const std::string& line);
   void closeNotice();
   void slideTo(Cell at);
   Cell pixelOf(Cell at);
@@ -54,6 +56,7 @@ class Player {
   std::unique_ptr<driver::Session> session_;
   std::string script_;
   std::int64_t sinceOpening_ = 0;
+  int unwritten_ = 0;  // milliseconds that have passed since the last line of the script
   bool palette_ = true;
 };
 
