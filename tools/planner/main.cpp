@@ -22,8 +22,7 @@ bool plan(const std::shared_ptr<shell::Assets>& assets, const std::string& folde
     return false;
   }
   std::ofstream(folder + "/" + name + ".txt") << player.script();
-  std::filesystem::copy_file(player.shotPath(), folder + "/" + name + ".png",
-                             std::filesystem::copy_options::overwrite_existing);
+  player.writePicture(folder + "/" + name + ".png");
   std::printf("%s: won after %d ticks\n", name.c_str(), player.ticksPlayed());
   return true;
 }

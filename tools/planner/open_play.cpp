@@ -234,6 +234,12 @@ void playOpenPlay(Player& player, int) {
     building = mayor.build();
     player.ticks(4);
   }
+  player.remark("The treasury is full; a lower tax brings more people, and they need more farms.");
+  player.tax(10);
+  for (int n = 0; n < 40; ++n) {
+    mayor.build();
+    player.ticks(4);
+  }
   if (player.get("population") <= kPeopleWanted) {
     throw Failure{"finished with " + player.look("get population") + " people"};
   }
@@ -249,7 +255,7 @@ void playOpenPlay(Player& player, int) {
     player.expect("get food");
     player.expect("get gold");
   }
-  player.shot();
+  player.takePicture();
 }
 
 }  // namespace planner

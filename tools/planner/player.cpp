@@ -8,6 +8,7 @@
 #include "core/game_controls.h"
 #include "core/game_state.h"
 #include "driver/commands.h"
+#include "platform/png.h"
 
 namespace planner {
 
@@ -16,6 +17,7 @@ namespace {
 // Middle of a cell, from the upper left corner of the map picture.
 constexpr int kMiddleX = 992;
 constexpr int kMiddleY = 48;
+constexpr int kBoard = 31;  // cells each way of the whole map
 // A place where the pointer slides nothing, lights no button and draws no cursor.
 constexpr const char* kRest = "pointer 720 588";
 
@@ -177,7 +179,7 @@ void Player::finishPuzzle(int level, int limit, const std::string& figure) {
   act(kRest);
   int waited = 0;
   for (; waited < limit && !ended(); ++waited) {
-    shot();
+    takePicture();
     look("advance 1000");
   }
   remark("The goal is met, and the level ends.");
@@ -187,13 +189,41 @@ void Player::finishPuzzle(int level, int limit, const std::string& figure) {
   }
   expect("control Command4");
   expect("get " + figure);
+  if (figure == "population") expect("get housingCapacity");
   act("advance 1000");
   expect("screen");
   expect("get puzzleDone" + std::to_string(level));
 }
 
-void Player::shot() {
-  look("shot shot.png");
+void Player::takePicture() {
+  picture_ = session_->program().screen()->canvas()->surface().clone();
+  pictureSide_ = static_cast<int>(get("gMapSize")) + 1;
+}
+
+void Player::writePicture(const std::string& path) const {
+  // The square is a diamond around the middle of the map; buildings rise a little above it.
+  constexpr int kRise = 32;
+  const int first = (kBoard - pictureSide_) / 2;
+  const int left = kMiddleX - 32 * pictureSide_;
+  const int top = kMiddleY - 16 + 32 * first - kRise;
+  const int step = pictureSide_ > 11 ? 2 : 1;
+  platform::Surface cut(64 * pictureSide_ / step, (32 * pictureSide_ + kRise) / step);
+  for (int y = 0; y < cut.height(); ++y) {
+    for (int x = 0; x < cut.width(); ++x) {
+      int sum[3] = {};
+      for (int n = 0; n < step * step; ++n) {
+        const platform::Color color =
+            picture_.pixel(left + step * x + n % step, top + step * y + n / step);
+        sum[0] += color.r;
+        sum[1] += color.g;
+        sum[2] += color.b;
+      }
+      const auto part = [&](int n) { return static_cast<std::uint8_t>(sum[n] / (step * step)); };
+      cut.setPixel(x, y, {part(0), part(1), part(2)});
+    }
+  }
+  std::string error;
+  if (!platform::writePng(path, cut, error)) throw Failure{error};
 }
 
 }  // namespace planner

@@ -67,15 +67,18 @@ class Player {
   void finishPuzzle(int level, int limit, const std::string& figure);
 
   const std::string& script() const { return script_; }
-  /// A picture of the screen as PNG, into the player's folder.
-  void shot();
-  std::string shotPath() const { return folder_ + "/shot.png"; }
+  /// Keeps what the map shows now.
+  void takePicture();
+  /// Writes the kept picture of the play square as PNG, a large one at half its size.
+  void writePicture(const std::string& path) const;
 
  private:
   bool isOpen(const char* control);
   void clickCell(Cell cell);
 
   std::string folder_;
+  platform::Surface picture_;
+  int pictureSide_ = 0;  // cells each way of the play square in the picture
   std::unique_ptr<driver::Session> session_;
   std::string script_;
   int ticks_ = 0;

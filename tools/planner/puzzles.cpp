@@ -132,16 +132,16 @@ void waitForTool(Player& player, double people, const char* flag) {
   for (int n = 0; n < 3 && player.get(flag) == 0; ++n) player.ticks(1);
 }
 
-/// Farms over the whole square until `harvests` are in, then bare land again. Food can only be
-/// stored; the last farm goes once there is enough of it.
-void storeFood(Player& player, int side, int harvests) {
+/// Farms over the whole square until the first harvest is in, then bare land again: food is only
+/// needed until the goal is met, which takes less than a month from there.
+void storeFood(Player& player, int side) {
   std::vector<Cell> farms;
   for (int y = 0; y + 3 <= side; y += 3) {
     for (int x = 0; x + 3 <= side; x += 3) farms.push_back({x, y});
   }
   player.remark("Farms first: the food for the whole level is stored before anyone comes.");
   player.use(kFarm, farms);
-  player.ticks(31 + 25 * (harvests - 1));
+  player.ticks(31);
   player.remark("The farms make room.");
   player.use(kDemolish, farms);
 }
@@ -154,7 +154,7 @@ void playResidences(Player& player, int level, const Layout& layout) {
 }
 
 void playFirst(Player& player) {
-  storeFood(player, 5, 1);
+  storeFood(player, 5);
   player.remark("Three residences and a market at three cells of road; with food and without tax");
   player.remark("each residence holds a little more than 20 people.");
   player.use(kRoad, {{2, 1}, {2, 2}, {2, 3}});
@@ -180,7 +180,7 @@ struct SevenSquare {
 
 void playFourth(Player& player) {
   const SevenSquare plan;
-  storeFood(player, 7, 1);
+  storeFood(player, 7);
   player.remark("A market and the residences beside the streets, for the hundred people who bring");
   player.remark("the church.");
   player.use(kRoad, plan.streets);
@@ -242,9 +242,9 @@ void playGold(Player& player, int level, bool church) {
   player.finishPuzzle(level, 31 + 34 * 12, "gold");
 }
 
-void playPeople(Player& player, int level, int side, int blocks, bool doctor, int harvests) {
+void playPeople(Player& player, int level, int side, int blocks, bool doctor) {
   const Town town = findTown(side, blocks, 3, doctor);
-  storeFood(player, side, harvests);
+  storeFood(player, side);
   player.remark("Everything at one network of streets; the market first.");
   player.use(kRoad, town.streets);
   player.use(kMarket, town.market);
@@ -280,9 +280,9 @@ void playPuzzle(Player& player, int level) {
     case 6:
       return playSixth(player);
     case 7:
-      return playPeople(player, level, 9, 14, false, 1);
+      return playPeople(player, level, 9, 14, false);
     case 8:
-      return playPeople(player, level, 11, 21, true, 2);
+      return playPeople(player, level, 11, 21, true);
     case 9:
       return playResidences(player, level, thinned(mostBlocks(11), 24));
     default:
