@@ -1,0 +1,69 @@
+// The demonstration, watched to its end.
+#include <gtest/gtest.h>
+
+#include "core/vocabulary.h"
+#include "shell/script_runner.h"
+
+namespace {
+
+using script::Play;
+
+// r road, h residence, m market, s school, c church, d doctor, f farm: cells 9..24 by 1..21.
+constexpr const char* kCity[] = {
+    ".....fffffffff..", ".....fffffffff..", ".....fffffffff..", ".....fffffffff..",
+    ".....fffffffff..", ".....fffffffff..", "................", "...hhhhhhhhhh...",
+    "...hhhhhhhhhh...", ".rrrrrrrrrrrrrr.", ".rhhhhrssrhhhhr.", ".rhhhhrssrhhhhr.",
+    ".rhhhhrmmrhhhhrd", ".rhhhhrmmrhhhhr.", "drhhhhrccrhhhhr.", ".rhhhhrccrhhhhr.",
+    ".rhhhhrssrhhhhr.", ".rhhhhrssrhhhhr.", ".rrrrrrrrrrrrrr.", "...hhhhhhhhhh...",
+    "...hhhhhhhhhh...",
+};
+
+char letterOf(int code) {
+  if (code == 0) return '.';
+  if (code == 6) return 'd';
+  return code == 7 ? 'r' : "?hms?c??f"[code / 10];
+}
+
+TEST(Demonstration, BuildsItsCitySilentlyAndGoesBackToTheMenu) {
+  Play play;
+  play.run("click mainhelp\nadvance 500\nsounds");
+  core::GameState* game = play.session().program().screen()->game();
+  EXPECT_EQ(game->gold, 1000);
+  // The pace of the script is kept, and no notice outlives the next second.
+  play.run("set ticksPerMonth 16\nset gSoundOn 1\nadvance 1000");
+  EXPECT_EQ(game->ticksPerMonth, 25);
+  EXPECT_EQ(play("get gSoundOn"), "ok 0");
+  EXPECT_EQ(game->tileCode(18, 10), 7);
+  EXPECT_EQ(game->tileCode(18, 11), 0);
+
+  play.run("advance 114000");
+  EXPECT_EQ(game->demoStep, 115);
+  EXPECT_NE(play("control haber").find("End of demonstration"), std::string::npos);
+  play.run("advance 19999");
+  for (int y = 0; y <= core::kLastCell; ++y) {
+    for (int x = 0; x <= core::kLastCell; ++x) {
+      const bool inside = x >= 9 && x <= 24 && y >= 1 && y <= 21;
+      EXPECT_EQ(letterOf(game->tileCode(x, y)), inside ? kCity[y - 1][x - 9] : '.')
+          << x << "," << y;
+    }
+  }
+  EXPECT_EQ(game->toolUnlocked[1], 0);
+  EXPECT_EQ(play("sounds").find("wav"), std::string::npos);
+  play.run("advance 1");
+  EXPECT_EQ(play("screen"), "ok firstmenu");
+  EXPECT_EQ(play("sounds"), R"(ok ["close canyon"])");
+}
+
+TEST(Demonstration, GoesOnWithoutMoneyAndEndsAtAPress) {
+  Play play;
+  play.run("click mainhelp\nadvance 500\nset gold -90\nadvance 3000\nsounds");
+  core::GameState* game = play.session().program().screen()->game();
+  EXPECT_EQ(game->tileCode(18, 12), 7);
+  EXPECT_LT(game->gold, -100);
+  EXPECT_EQ(game->tileCode(18, 13), 0);
+  play.run("click Label17");
+  EXPECT_EQ(play("screen"), "ok firstmenu");
+  EXPECT_EQ(play("sounds"), R"(ok ["close canyon"])");
+}
+
+}  // namespace

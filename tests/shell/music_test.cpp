@@ -1,0 +1,74 @@
+// The music as a listener hears it: which theme starts in which second.
+#include <gtest/gtest.h>
+
+#include "shell/script_runner.h"
+
+namespace {
+
+using script::Play;
+using Heard = std::vector<std::pair<int, int>>;  // second, theme
+
+void openGame(Play& play) {
+  play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500\nclick Command5\nsounds");
+}
+
+/// Lets seconds pass and notes each theme that is started. Every start is the same three commands.
+Heard listen(Play& play, int seconds) {
+  Heard heard;
+  for (int second = 1; second <= seconds; ++second) {
+    play.run("advance 1000");
+    const std::string log = play("sounds");
+    if (log == "ok []") continue;
+    const char theme = log[std::min(log.find("theme") + 5, log.size() - 1)];
+    EXPECT_EQ(log, std::string(R"(ok ["close canyon","Open \"F\\theme)") + theme +
+                       R"(.Mid\" type sequencer alias canyon","play canyon"])");
+    heard.push_back({second, theme - '0'});
+  }
+  return heard;
+}
+
+TEST(Music, PlaysAllThemesInTurnAndBeginsAnew) {
+  Play play;
+  openGame(play);
+  EXPECT_EQ(listen(play, 2 * 658 + 1), (Heard{{1, 1},
+                                              {83, 2},
+                                              {208, 3},
+                                              {371, 4},
+                                              {525, 5},
+                                              {659, 1},
+                                              {741, 2},
+                                              {866, 3},
+                                              {1029, 4},
+                                              {1183, 5},
+                                              {1317, 1}}));
+}
+
+TEST(Music, RepeatsOneThemeByItsOwnLength) {
+  Play play;
+  openGame(play);
+  const int lengths[] = {83, 126, 165, 154, 130};
+  for (int track = 1; track <= 5; ++track) {
+    const int length = lengths[track - 1];
+    play.run("advance 40000\nsounds\nchoose Combo1 Track " + std::to_string(track));
+    EXPECT_EQ(listen(play, 2 * length + 1),
+              (Heard{{1, track}, {1 + length, track}, {1 + 2 * length, track}}));
+  }
+}
+
+TEST(Music, StopsAtOnceAndComesBackWithTheNextSecond) {
+  Play play;
+  openGame(play);
+  play.run("choose Combo1 Track 4\nadvance 5000\nsounds\nchoose Combo1 Off");
+  EXPECT_EQ(play("sounds"), R"(ok ["close canyon"])");
+  EXPECT_EQ(play("get musicTrack"), "ok 4");
+  EXPECT_EQ(listen(play, 200), Heard{});
+  play.run("choose Combo1 Track 2");
+  EXPECT_EQ(listen(play, 100), (Heard{{1, 2}}));
+  // The entry that is shown already starts over; without sound effects the music goes on.
+  play.run("click scrollspeedminus\nchoose Combo1 Track 2");
+  EXPECT_EQ(listen(play, 126), (Heard{{1, 2}}));
+  play.run("choose Combo1 Auto play");
+  EXPECT_EQ(listen(play, 83), (Heard{{1, 1}, {83, 2}}));
+}
+
+}  // namespace
