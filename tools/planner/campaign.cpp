@@ -1,6 +1,7 @@
 // vellmoran-campaign-planner FOLDER: plays the ten missions in a row, in one program's folder, and
-// writes what it pressed as a script for the driver, campaign.txt, with a picture of the map at the end
-// of each mission.
+// writes what it pressed as a script for the driver, campaign.txt, with a picture of the map in the last
+// moment of each mission. docs/solutions has the pictures made small:
+// convert IN.png -trim +repage -resize 560x +dither -colors 96 -strip PNG8:OUT.png
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -52,6 +53,7 @@ class Campaign {
         player_.remark(figures());
       }
       policy(left);
+      if (left == 1 && player_.game().tickOfMonth >= player_.game().monthLength) takePicture();
       player_.tick();
       ++ticks;
     }
@@ -70,12 +72,15 @@ class Campaign {
     return text;
   }
 
-  void finish(int ticks) {
-    std::printf("mission %d won after %d ticks, %s\n", mission_, ticks, figures().c_str());
+  void takePicture() {
     char name[32];
     std::snprintf(name, sizeof name, "/mission%02d.png", mission_);
     player_.aside("surface " + pictures_ + name);
+  }
 
+  void finish(int ticks) {
+    std::printf("mission %d won after %d ticks, %s\n", mission_, ticks, figures().c_str());
+    if (mission_ == 10) takePicture();
     player_.remark("Won:");
     for (const char* goal : {"population", "food", "gold"}) {
       player_.expect(std::string("get ") + goal);
