@@ -4,7 +4,6 @@ The land and what stands on it are laid out here and rendered by pov/menu.pov; s
 mountains and the haze of the distance are painted here."""
 import country
 from country import *
-from painterly import strokes
 
 W, H = 800, 600
 SUN = np.array([-.78, -.30, .46])
