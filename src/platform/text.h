@@ -18,12 +18,12 @@ class Text {
   /// Takes the text; what goes beyond the capacity is cut at a whole UTF-8 character.
   void assign(std::string_view text) {
     size_ = fitting(text, kCapacity);
-    std::memmove(data_.data(), text.data(), size_);
+    if (size_ > 0) std::memmove(data_.data(), text.data(), size_);
   }
   /// Adds to the end, cut the same way.
   void append(std::string_view text) {
     const std::size_t n = fitting(text, kCapacity - size_);
-    std::memmove(data_.data() + size_, text.data(), n);
+    if (n > 0) std::memmove(data_.data() + size_, text.data(), n);
     size_ += n;
   }
   void clear() { size_ = 0; }

@@ -21,7 +21,9 @@ void deliver(const platform::Event& event, shell::Program& program) {
   platform::Desk& desk = program.desk();
   using Kind = platform::EventKind;
   switch (event.kind) {
-    case Kind::pointer: desk.pointerMoved(event.point); break;
+    case Kind::pointer:
+      desk.pointerMoved(event.point);
+      break;
     case Kind::down:
       desk.pointerMoved(event.point);
       desk.buttonDown();
@@ -30,11 +32,21 @@ void deliver(const platform::Event& event, shell::Program& program) {
       desk.pointerMoved(event.point);
       desk.buttonUp();
       break;
-    case Kind::wheel: desk.wheel(event.steps); break;
-    case Kind::text: desk.type(event.text.data()); break;
-    case Kind::key: desk.key(event.key); break;
-    case Kind::redraw: program.painter().forget(); break;
-    case Kind::quit: program.end(0); break;
+    case Kind::wheel:
+      desk.wheel(event.steps);
+      break;
+    case Kind::text:
+      desk.type(event.text.data());
+      break;
+    case Kind::key:
+      desk.key(event.key);
+      break;
+    case Kind::redraw:
+      program.painter().forget();
+      break;
+    case Kind::quit:
+      program.end(0);
+      break;
   }
 }
 

@@ -13,9 +13,9 @@ void wrapHistory(core::GameState& game);
 
 /// A population milestone.
 struct Milestone {
-  int population;              // reached at this many people
-  int toolFlag;                // entry of toolUnlocked
-  int paletteIndex;            // button of the palette that is shown
+  int population;    // reached at this many people
+  int toolFlag;      // entry of toolUnlocked
+  int paletteIndex;  // button of the palette that is shown
   const char* notice;
 };
 inline constexpr int kMilestones = 4;
