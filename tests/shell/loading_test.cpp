@@ -79,6 +79,20 @@ TEST(Loading, FromEveryViewAndUnderOpenPanelsGivesTheSameNormalCity) {
   }
 }
 
+TEST(Loading, ABannerKeepsTheRestOfItsSavedTimeAndThePickedToolIsNotForgotten) {
+  SavedTown play;
+  play.run("advance 5000\nclick inform\nadvance 2500\nclick gmmenu\nclick savegame\nclick cmdsave");
+  play.run("advance 5000\nclick building\nadvance 5000\nclick Command1 0");
+  play.load();
+  EXPECT_EQ(play.state().lastPaletteTool, 1);
+  EXPECT_EQ(play.state().newsTicks, 10);
+  play.run("advance 1249");
+  EXPECT_EQ(play.text(ui::haber), "Game loaded");
+  EXPECT_TRUE(play.shown(ui::haber));
+  play.run("advance 1");
+  EXPECT_FALSE(play.shown(ui::haber));
+}
+
 TEST(Loading, ARunningRoadLossAndEarthquakeGoOnAndStrikeTheLoadedCity) {
   SavedTown play;
   // What the running game lost its road by is whole again; nothing falls.
