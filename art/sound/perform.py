@@ -40,10 +40,11 @@ class Performance:
 
     def _arc(self, section, bar, beat):
         """Velocity from the section's dynamic line and the rise and fall of each phrase."""
-        beats, phrase = self.score.beats, self.score.phrase
+        beats = self.score.beats
+        first, phrase = section.phrase_at(bar)
         x = (bar + beat / beats) / len(section.chords)
         base = section.dyn[0] + (section.dyn[1] - section.dyn[0]) * x
-        y = ((bar % phrase) + beat / beats) / phrase
+        y = (bar - first + beat / beats) / phrase
         return base + 8 * math.sin(math.pi * min(1, y * 1.12)) - 4
 
     def _accent(self, beat):
@@ -98,7 +99,7 @@ class Performance:
         return [n for n in out if n[3].pitch is not None]
 
     def _play_line(self, section, row, start):
-        part, phrase = row['part'], self.score.phrase
+        part = row['part']
         written = self._written(row, section, self.score.lines[row['names'][0]])
         for i, (bar, beat, length, note, marks) in enumerate(written):
             key = note.pitch + 12 * row['oct']
@@ -109,7 +110,7 @@ class Performance:
             same_next = after and after[3].pitch == note.pitch
             # A plucked string rings on by itself: a line is never written longer than its notes.
             sounding = length * min(part.legato, 1)
-            ends_phrase = bar % phrase == phrase - 1 and (not after or after[0] != bar)
+            ends_phrase = section.ends_phrase(bar) and (not after or after[0] != bar)
             if ends_phrase or ',' in marks:
                 # The player breathes: the phrase's last note is softer and ends early.
                 sounding, velocity = length * .8, velocity - 7
@@ -207,7 +208,9 @@ class Performance:
             return self._near(chord.fifth, part, last)
         wanted = {'R': chord.bass, 'o': chord.bass, 't': chord.third, 'f': chord.fifth}[token]
         if token == 'o' and last is not None:
-            return last + 12 if last + 12 <= part.high else last - 12
+            # The bass an octave up, also where the chord has changed since.
+            up = last + 1 + (wanted - last - 1) % 12
+            return up if up <= part.high else up - 24
         return self._near(wanted, part, last)
 
     @staticmethod
@@ -240,7 +243,7 @@ class Performance:
                     taken.append(key)
                 voices = sorted(taken)
                 for i, key in enumerate(voices):
-                    if not held[i] or held[i][0] != key or bar % self.score.phrase == 0:
+                    if not held[i] or held[i][0] != key or bar == section.phrase_at(bar)[0]:
                         close(i, at)
                         held[i] = (key, at, self._arc(section, bar, 0) - 14)
                 at += length
@@ -250,15 +253,13 @@ class Performance:
 
     def _play_drone(self, section, row, start):
         beats = self.score.beats
-        first = start + (row['from'] - 1) * beats
+        bar = row['from'] - 1
         # The drone's notes are struck again every phrase, so that they do not stand still.
-        size = self.score.phrase * beats
-        end = start + row['to'] * beats
-        while first < end - .01:
-            stop = min(end, first + size)
+        while bar < row['to']:
+            stop = min(row['to'], sum(section.phrase_at(bar)))
             for name in row['names']:
-                self._add(row, first, stop - first - .1, pitch(name), 66, 'drone')
-            first = stop
+                self._add(row, start + bar * beats, (stop - bar) * beats - .1, pitch(name), 66, 'drone')
+            bar = stop
 
     def _swell(self, part, start, length, low, top, last):
         for i in range(8):
@@ -290,9 +291,9 @@ class Performance:
                 for i in range(round(score.beats / score.beat)):
                     x = i * score.beat / score.beats
                     factor = section.pace
-                    if bar % score.phrase == score.phrase - 1:
+                    if section.ends_phrase(bar):
                         factor *= 1 - (1 - score.give) * (.4 + x)
-                    elif bar % score.phrase == 1:
+                    elif bar == section.phrase_at(bar)[0] + 1:
                         factor *= 1.012
                     late = whole - (self.bars - len(score.rit))
                     if late >= 0:

@@ -11,7 +11,8 @@ SIGN = {'': 0, '#': 1, 'b': -1}
 DYNAMIC = {'pp': 56, 'p': 66, 'mp': 77, 'mf': 88, 'f': 99, 'ff': 109}
 MODE = {'major': (0, 2, 4, 5, 7, 9, 11), 'minor': (0, 2, 3, 5, 7, 8, 10),
         'dorian': (0, 2, 3, 5, 7, 9, 10), 'mixolydian': (0, 2, 4, 5, 7, 9, 10)}
-CHORD = {'': (0, 4, 7), 'm': (0, 3, 7), '7': (0, 4, 7, 10)}
+CHORD = {'': (0, 4, 7), 'm': (0, 3, 7), '7': (0, 4, 7, 10), 'm7': (0, 3, 7, 10),
+         'dim': (0, 3, 6), 'sus': (0, 5, 7)}
 # The hand drums of the percussion track: (delay in quarters, key, change of velocity).
 DRUM = {'L': [(0, 64, 0)], 'h': [(0, 63, -8)], 't': [(0, 54, -26)],
         'g': [(0, 81, -24)],
@@ -40,7 +41,7 @@ class Chord:
     """A chord name such as Dm, G/B or A7."""
 
     def __init__(self, name):
-        m = re.fullmatch(r'([A-G][#b]?)(m|7|)(?:/([A-G][#b]?))?', name)
+        m = re.fullmatch(r'([A-G][#b]?)(m7|m|7|dim|sus|)(?:/([A-G][#b]?))?', name)
         if not m:
             raise ScoreError(f'no such chord: {name}')
         self.name = name
@@ -79,6 +80,19 @@ class Section:
     def __init__(self, name):
         self.name, self.chords, self.dyn = name, [], (80, 80)
         self.pace, self.scale, self.rows = 1.0, None, []
+        self.phrases = [4]
+
+    def phrase_at(self, bar):
+        """The first bar of the phrase that a bar belongs to, and its number of bars."""
+        first, i = 0, 0
+        while bar >= first + self.phrases[i % len(self.phrases)]:
+            first += self.phrases[i % len(self.phrases)]
+            i += 1
+        return first, min(self.phrases[i % len(self.phrases)], len(self.chords) - first)
+
+    def ends_phrase(self, bar):
+        first, size = self.phrase_at(bar)
+        return bar == first + size - 1
 
     def chord_at(self, bar, beat):
         """The chord sounding at a beat, and the beat at which it ends."""
@@ -172,7 +186,7 @@ class Score:
 
     def _section(self, words):
         section = Section(words[0])
-        section.scale = self.scale
+        section.scale, section.phrases = self.scale, [self.phrase]
         words = words[1:]
         while words:
             word = words.pop(0)
@@ -180,6 +194,8 @@ class Score:
                 section.chords = self.chords[words.pop(0)]
             elif word == 'dyn':
                 section.dyn = (DYNAMIC[words.pop(0)], DYNAMIC[words.pop(0)])
+            elif word == 'phrase':
+                section.phrases = [int(n) for n in words.pop(0).split(',')]
             elif word == 'pace':
                 section.pace = float(words.pop(0))
             elif word == 'in':
