@@ -43,7 +43,7 @@ void setTall(GameState& game, int x, int y, int image) {
 int farmImage(const GameState& game) {
   int image = core::kFarmImage1;
   if (game.farmAnimationOn == 1) {
-    const int tick = game.tickOfMonth.whole();
+    const double tick = game.tickOfMonth;
     const int third = game.monthLength.whole() / 3;
     if (tick > third) image = core::kFarmImage2;
     if (tick >= 2 * third) image = core::kFarmImage3;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/cell.h"
 #include "core/new_game.h"
 #include "core/vocabulary.h"
 #include "map/walker_designs.h"
@@ -82,7 +83,10 @@ void step(GameState& game, int slot) {
   const WalkerDesign& design = walkerDesign(game.walkerDir[slot]);
   const int aheadX = game.walkerX[slot] + game.walkerCellDX[slot] + design.cellStep.x;
   const int aheadY = game.walkerY[slot] + game.walkerCellDY[slot] + design.cellStep.y;
-  if (game.tileImage(aheadX, aheadY) != design.road) game.walkerDone[slot] = 1;
+  // A file may hold a road up to the very rim of the map, beyond which there are no pictures.
+  if (!core::hasImage(aheadX, aheadY) || game.tileImage(aheadX, aheadY) != design.road) {
+    game.walkerDone[slot] = 1;
+  }
 
   if (++game.walkerFrame[slot] == kFrames) game.walkerFrame[slot] = 0;
   game.walkerPxX[slot] += design.pixelStep.x;

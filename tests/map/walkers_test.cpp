@@ -112,6 +112,10 @@ TEST_F(Walkers, EndAsTheyEnterTheLastStraightCell) {
   city.game.tileImage(7, 20) = core::kRoadJunction;
   stepWalkers(city.stage);
   EXPECT_EQ(active(), 0) << "the road ahead was reshaped";
+  layAlongX(0, 4, 25);
+  start(1, 1, 25, 3);
+  for (int tick = 0; tick < 17; ++tick) stepWalkers(city.stage);
+  EXPECT_EQ(active(), 0) << "the road ends with the map";
 }
 
 TEST_F(Walkers, LeaveNoTraceAmongTallCells) {
