@@ -34,9 +34,12 @@ class Meadow:
 
     Slow mottling is each variant's own but dies out towards the rim, so any
     two variants meet without an edge and no lattice shows; grain and tufts are
-    finer than an edge can be seen, and they run on over the cell's border."""
+    finer than an edge can be seen, and they run on over the cell's border.
+    Whatever of grain and tufts is coarser than a few pixels is taken out
+    again: a map repeats the cell a thousand times, and a cluster of blades
+    would show as a pattern."""
 
-    def __init__(self, seed, tufts, tone=0.0, mottle=.95):
+    def __init__(self, seed, tufts, tone=0.0, mottle=.5):
         """tone: how much lighter and yellower than the middle of the ramp;
         towards the rim the pixels of that tone thin out, so that two tones
         melt into one another."""
@@ -46,24 +49,31 @@ class Meadow:
         rim = np.clip(edge / .3, 0, 1)
         mot = torus_noise(4, seed + 50) * .65 + torus_noise(9, seed + 60) * .35 - .5
         self.tone = tone * (r.rand(32, 64) < .5 + .5 * np.clip(edge / .24, 0, 1))
-        self.t = 2.4 + mottle * mot * rim + r.randn(32, 64) * .24 + self.tone
-        for _ in range(tufts):                   # little blades, in loose groups
-            x, y = r.randint(0, 64), r.randint(0, 32)
-            for _ in range(r.randint(1, 5)):
-                self.blade(x + r.randint(-10, 11), y + r.randint(-5, 6))
+        self.t = 2.4 + r.randn(32, 64) * .20
+        for _ in range(tufts):                   # little blades
+            self.blade(r.randint(0, 64), r.randint(0, 32))
+        self.level()
+        self.t += mottle * mot * rim + self.tone
 
     def blade(self, x, y):
         r = self.r
-        top = r.uniform(2.7, 3.7)
+        top = 2.4 + r.uniform(.15, .65)
         self.put(x, y, top)
-        self.put(x, y + 1, top - .9)
+        self.put(x, y + 1, top - .45)
         if r.rand() < .6:
-            self.put(x + r.choice([-1, 1]), y + 1, top - .4)
-        self.put(x + 1, y + 2, 1.5 + r.rand() * .5)       # its shade, lower right
+            self.put(x + r.choice([-1, 1]), y + 1, top - .2)
+        self.put(x + 1, y + 2, 1.95 + r.rand() * .25)     # its shade, lower right
 
     def put(self, px, py, val):
         x, y = wrap(px, py)
         self.t[y, x] = val
+
+    def level(self):
+        """Take the coarse part out, as of the cell repeated for ever."""
+        at = np.array([[wrap(x, y) for x in range(64)] for y in range(32)])
+        endless = self.t[at[..., 1], at[..., 0]]         # the box holds two cells
+        coarse = blur(np.pad(endless, 8, 'wrap'), 2.5)[8:-8, 8:-8]
+        self.t += endless.mean() - coarse
 
     def colours(self):
         lut = np.array(GRASS)
@@ -74,26 +84,16 @@ class Meadow:
         self.img = np.clip(self.img * (1 + self.tone[..., None] * np.array([.10, .03, -.06])), 0, 1)
         return self
 
-    def flowers(self, n, kinds, spread=18):
-        """Single blossoms with a darker pixel below, off the rim."""
-        r = self.r
-        for k in range(n):
-            a, b = r.uniform(-1, 1), r.uniform(-1, 1)
-            x, y = int(32 + spread * (a - b) / 1.2), int(16 + spread * (a + b) / 2.4)
-            self.img[y, x] = .3 * self.img[y, x] + .7 * rgb(kinds[k % len(kinds)])
-            self.img[y + 1, x] *= .84
-        return self
-
     def done(self):
         return rgba(self.img, diamond_mask())
 
 
 def plain():
-    return Meadow(11, 22, tone=-.2).colours().done()
+    return Meadow(11, 55, tone=0., mottle=.35).colours().done()
 
 
 def clover():
-    return Meadow(12, 26, tone=.2).colours().flowers(6, ['c4cf8e', 'd8c95c', 'b4c77c'], 22).done()
+    return Meadow(12, 60, tone=.12, mottle=.15).colours().done()
 
 
 def render():

@@ -29,7 +29,7 @@ STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
 EDGES = np.array([e for e, _ in PROFILE])
-SILL = to_lin(rgb('cdc3ab'))
+PAVING, SEAM = to_lin(rgb('a09888')), to_lin(rgb('857d6d'))
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
@@ -117,26 +117,30 @@ def corner(vertex):
     return exact_arms(img, vertex)
 
 
-def junction():
-    """Four arms; each quarter of the cell turns round its own vertex.  A sill
-    of lighter stones lies across each arm: it closes the side that has no road
-    when three arms meet.  It leaves out what a walker's block covers."""
-    def sill(u, v):
-        du, dv = np.minimum(u, 1 - u), np.minimum(v, 1 - v)
-        along = np.where(du < dv, v, u)
-        edge = np.minimum(du, dv)
-        walked = (u > .5) & (du < dv) & (v < .30)
-        return (edge > .02) & (edge < .075) & (along > .17) & (along < .83) & ~walked, along
+def ramp(t):
+    t = np.clip(t, 0, 1)
+    return (t * t * (3 - 2 * t))[..., None]
 
+
+def junction():
+    """Four arms; each quarter of the cell turns round its own vertex, and the
+    wheel tracks fade into even paving.  The picture also stands where three
+    arms meet: a seam along each edge, hardly darker than the paving, closes
+    the side without a road and is a joint of the stones where there is one.
+    It keeps off the corners, alike on all four sides, since a walker's block
+    covers one of them."""
     def paint(u, v):
         out = np.zeros(u.shape + (3,))
         for cu, cv in VERTEX.values():
             here = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
             a, b = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
             out[here] = shaded(a, b, cu, cv, .5)[here]
-        stone, along = sill(u, v)
-        stones = SILL * np.where((along * 12) % 1 < .14, .72, 1)[..., None]
-        return np.where(stone[..., None], out * .22 + stones * .78, out)
+        du, dv = np.minimum(u, 1 - u), np.minimum(v, 1 - v)
+        edge, along = np.minimum(du, dv), np.maximum(du, dv)
+        even = .9 * ramp((edge - .12) / .12) * ramp((np.hypot(du, dv) - .26) / .10)
+        out = out * (1 - even) + PAVING * even
+        seam = .8 * ramp((along - .28) / .06) * (edge < .035)[..., None]
+        return out * (1 - seam) + SEAM * seam
 
     img = rgba(to_srgb(supersampled(paint)), diamond_mask())
     u, v = cell_uv()
