@@ -1,0 +1,157 @@
+// The map surface against one that is drawn anew, and the screen against one that is painted whole.
+#include <algorithm>
+#include <cstring>
+
+#include "core/game_controls.h"
+#include "map/renderer.h"
+#include "map/walker_designs.h"
+#include "monkey/watch.h"
+#include "platform/png.h"
+
+namespace monkey {
+
+namespace {
+
+namespace timer = core::game_timer;
+using platform::Rect;
+
+Rect boxOf(int x, int y) {
+  return {32 * (x - y) + 960, 16 * (x + y), 64, 64};
+}
+
+/// Where a walker's block stands on the surface.
+Rect blockOf(const core::GameState& game, int slot) {
+  const map::WalkerDesign& design = map::walkerDesign(game.walkerDir[slot]);
+  const Rect start = boxOf(game.walkerX[slot], game.walkerY[slot]);
+  return {start.left + design.base.x + game.walkerPxX[slot],
+          start.top + design.base.y + game.walkerPxY[slot], 12, 17};
+}
+
+/// Whether the ground at a pixel of the surface is straight road.
+bool isLane(const core::GameState& game, int px, int py) {
+  // Twice the distances along the axes of the cells, from the upper corner of cell (0, 0).
+  const int a = (2 * (py - 32) + (px - 992)) >> 6;
+  const int b = (2 * (py - 32) - (px - 992)) >> 6;
+  if (a < 0 || b < 0 || a > core::kLastCell || b > core::kLastCell) return false;
+  const int image = game.tileImage(a, b);
+  return image == core::kRoadAlongX || image == core::kRoadAlongY;
+}
+
+/// Where the surface need not be what the cells say.
+std::vector<Rect> exceptions(const core::GameState& game, const core::ProgramValues& values) {
+  std::vector<Rect> rects;
+  for (int slot = 1; slot <= core::kWalkers; ++slot) {
+    if (game.walkerActive[slot] == 1) rects.push_back(blockOf(game, slot));
+  }
+  // Walls come with the first coat, and ground painted after it may lie over their upper halves until
+  // the first redraw, in the first tick of the first month.
+  const bool walled = values.gMission == 9 || values.gMission == 10;
+  const bool fresh = walled && game.historyIndex == 1 && game.tickOfMonth <= 1;
+  for (int y = 0; y <= core::kLastCell; ++y) {
+    for (int x = 0; x <= core::kLastCell; ++x) {
+      // In an access view what changes is marked, and drawn with the next view.
+      if (game.overlayView != 0 && game.cellDirty(x, y) == 1) rects.push_back(boxOf(x, y));
+      if (fresh && game.cellTall(x, y) == 1) rects.push_back(boxOf(x, y));
+    }
+  }
+  return rects;
+}
+
+/// The first pixel in which two surfaces of one size differ outside the exceptions.
+bool findDifference(const platform::Surface& a, const platform::Surface& b, const auto& excepted,
+                    platform::Point& at) {
+  const auto bytes = static_cast<std::size_t>(a.width()) * 3;
+  for (int y = 0; y < a.height(); ++y) {
+    if (std::memcmp(a.row(y), b.row(y), bytes) == 0) continue;
+    for (int x = 0; x < a.width(); ++x) {
+      if (a.pixel(x, y) == b.pixel(x, y)) continue;
+      if (excepted(x, y)) continue;
+      at = {x, y};
+      return true;
+    }
+  }
+  return false;
+}
+
+std::string text(platform::Point p) {
+  return std::to_string(p.x) + "," + std::to_string(p.y);
+}
+
+}  // namespace
+
+void Watch::pictures() {
+  if (screen() == nullptr) return;
+  watchFramebuffer();
+  // Between the choice of a game and its load the surface is bare. A mission that was won has another
+  // number already, with another backdrop.
+  if (sound() && !on(timer::Timer3) && !on(timer::Timer9)) watchSurface();
+}
+
+/// Notes where walkers are, and where their next step takes them.
+void Watch::watchWalkers() {
+  for (int slot = 1; slot <= core::kWalkers; ++slot) {
+    if (game()->walkerActive[slot] != 1) continue;
+    const platform::Surface& surface = screen()->canvas()->surface();
+    if (walked_.empty())
+      walked_.resize(static_cast<std::size_t>(surface.width() * surface.height()));
+    const platform::Point next = map::walkerDesign(game()->walkerDir[slot]).pixelStep;
+    const Rect block = blockOf(*game(), slot);
+    const Rect both =
+        intersection(boundingBox(block, moved(block, next.x, next.y)), surface.bounds());
+    for (int y = both.top; y < both.bottom(); ++y) {
+      for (int x = both.left; x < both.right(); ++x) {
+        walked_[static_cast<std::size_t>(y * surface.width() + x)] = true;
+      }
+    }
+  }
+}
+
+/// Everything drawn once more over the surface must leave it as it is.
+void Watch::watchSurface() {
+  platform::Surface& surface = screen()->canvas()->surface();
+  if (redrawn_ == nullptr) {
+    redrawn_ = std::make_unique<platform::Canvas>(surface.width(), surface.height());
+  }
+  BitBlt(redrawn_->surface(), 0, 0, surface.width(), surface.height(), surface, 0, 0,
+         platform::SRCCOPY);
+  static core::GameState copy;
+  copy = *game();
+  map::Stage stage{copy, values(), assets_.pictures, *redrawn_};
+  map::markCells(copy, 0, core::kLastCell);
+  map::DrawTiles32(stage, map::kFlatCells);
+  map::DrawTiles2(stage, map::kTallCells);
+  platform::Point at;
+  const std::vector<Rect> except = exceptions(*game(), values());
+  const auto excepted = [&](int x, int y) {
+    // The corners of a block can stand out over the end of a road; nothing paints the ground there.
+    const auto pixel = static_cast<std::size_t>(y * surface.width() + x);
+    if (!walked_.empty() && walked_[pixel] && !isLane(*game(), x, y)) return true;
+    return std::any_of(except.begin(), except.end(), [&](const Rect& rect) {
+      return rect.contains({x, y});
+    });
+  };
+  if (findDifference(surface, redrawn_->surface(), excepted, at)) {
+    std::string error;
+    platform::writePng("../is.png", surface, error);
+    platform::writePng("../should.png", redrawn_->surface(), error);
+    wrong("the surface is not what the cells say at pixel " + text(at));
+  }
+}
+
+void Watch::watchFramebuffer() {
+  shell::Program& program = session_->program();
+  program.paint();
+  shown_ = program.framebuffer().clone();
+  program.painter().forget();
+  program.paint();
+  platform::Point at;
+  if (findDifference(
+          shown_, program.framebuffer(), [](int, int) { return false; }, at)) {
+    std::string error;
+    platform::writePng("../is.png", shown_, error);
+    platform::writePng("../should.png", program.framebuffer(), error);
+    wrong("the screen is not what a whole repaint shows at pixel " + text(at));
+  }
+}
+
+}  // namespace monkey
