@@ -58,7 +58,7 @@ def enamel(w, h, base, seed):
 IVORY = np.array([226, 212, 178]) / 255.
 
 
-def plate(w, h, base, seed, r=5, field=None, frame=5):
+def plate(w, h, base, seed, r=4, field=None, frame=2.2):
     """One plate: a rounded frame of pale stone, a gold line, a field of enamel."""
     d = inset(h, w, r)
     img = enamel(w, h, base, seed)
@@ -99,7 +99,7 @@ def rule(img, x0, x1, y, strength=1):
     img[y + 1, x0:x1] += e * np.array([.09, .075, .035])
 
 
-def well(img, x, y, w, h, deep=1, glow=.0):
+def well(img, x, y, w, h, deep=1, glow=.0, faint=1):
     """A shallow round-cornered hollow or, with deep -1, a raised key."""
     d = inset(h, w, 4)
     sub = img[y:y + h, x:x + w]
@@ -112,19 +112,33 @@ def well(img, x, y, w, h, deep=1, glow=.0):
     out = sub + (body - deep * .125 * side * edge)[..., None] * [1, .95, .75]
     rim = np.clip(1 - np.abs(d - .5) / .7, 0, 1)[..., None] * (.55 if deep < 0 else .25)
     out = out * (1 - rim) + np.array([118, 146, 196]) / 255. * rim
+    t = t * faint
     sub[:] = sub * (1 - t) + out * t
 
 
 def tools_field(img, d):
     """The tool palette: two keys for the mode, a board for the current tool,
-    and a key for each of the nine tools."""
-    for x, y, w, h in ((7, 5, 59, 19), (79, 5, 59, 19)):
-        well(img, x, y, w, h, -1)
-    well(img, 6, 28, 133, 66, 1, -.012)
-    for x, y, w, h in ((7, 102, 60, 22), (75, 102, 64, 22), (7, 134, 60, 22), (78, 134, 61, 22), (7, 166, 60, 22),
-                       (78, 166, 61, 22), (7, 198, 60, 22), (78, 198, 61, 22), (7, 229, 132, 22)):
-        well(img, x, y, w, h, -1)
+    and a key for each of the nine tools.  Both columns of keys are as wide as the
+    longest name; the keys of tools that may still be locked are fainter."""
+    for x, w in ((4, 66), (76, 66)):
+        well(img, x, 4, w, 19, -1)
+        for y in (102, 134):
+            well(img, x, y, w, 23, -1)
+        for y in (166, 198):
+            well(img, x, y, w, 23, -1, faint=.45)
+    well(img, 4, 28, 138, 66, 1, -.012)
+    well(img, 4, 229, 138, 22, -1)
     return img
+
+
+def info(at=(2, 99, 141, 157)):
+    """What tells about a house lies on the palette, a little inside its rim: a piece
+    of the palette without keys, so that the palette's own frame goes on around it."""
+    def field(img, d):
+        well(img, 4, 101, 138, 152, 1, -.012)
+        return img
+    x, y, w, h = at
+    return plate(145, 258, SKY, 19, field=field)[y:y + h, x:x + w]
 
 
 def dividers(*xs):
@@ -139,24 +153,58 @@ def dividers(*xs):
 
 
 def views_field(img, d):
-    """Six keys in a row under the name of the view."""
+    """Six keys in a row under the name of the view, each centred on its letter."""
     rule(img, 16, 129, 28)
     for i in range(6):
-        x0, x1 = max(24 * i + 1, 4), min(24 * i + 24, 141)
-        well(img, x0, 55, x1 - x0, 21, -1)
+        well(img, 24 * i + 3, 59, 19, 18, -1)
     return img
+
+
+def row(w, h, base, seed, label=(8, 5, 145, 25)):
+    """A row of a menu.  Its label is a plain box on the right of the plate: two lines
+    run around that box, and in what is left before it stands a post with a stone."""
+    x, y, lw, lh = label
+    img = np.empty((h, w, 3))
+    img[:] = base
+    gold, pale, deep = (np.array(c) / 255. for c in ((186, 154, 92), (238, 226, 194), (150, 176, 216)))
+    img[y - 2:y + lh + 2, 1:w] = gold                               # the frame: gold without, pale within
+    img[y - 1:y + lh + 1, 1:w - 1] = pale
+    img[y - 1:y + lh + 1, w - 1] = np.array([170, 140, 86]) / 255.
+    img[y + lh, x - 1:w - 1] = np.array([214, 196, 150]) / 255.
+    img[y:y + lh, x:x + lw] = base
+    for k in (y - 2, y + lh + 1):                                   # corners a pixel short
+        img[k, w - 1] = base
+    img[y + lh + 2, 4:w] = base * .90                               # a shadow below
+    t = (np.arange(y - 1, y + lh + 1) - y + 1.) / (lh + 1)
+    post = IVORY * (1.05 - .13 * t[:, None])
+    n = np.random.RandomState(seed).randn(len(t), 6)
+    for k, lift in enumerate((1.00, 1.07, 1.05, 1.01, .96, .90)):   # the post, round
+        img[y - 1:y + lh + 1, 1 + k] = np.clip(post * (lift + .012 * n[:, k:k + 1]), 0, 1)
+    img[y - 2:y + lh + 2, 0] = gold
+    img[(y - 2, y + lh + 1), 0] = base
+    img[y - 1:y + lh + 1, x - 1] = gold
+    for yy in (y + 1, y + lh - 3):                                  # a groove near either end
+        img[yy, 1:x - 1] *= .86
+        img[yy + 1, 1:x - 1] = np.clip(img[yy + 1, 1:x - 1] * 1.04, 0, 1)
+    def stone(k):                                                   # a lozenge on the post
+        return lambda i, j: np.abs(i - 4) / (2.9 * k) + np.abs(j - y - lh / 2) / (5.6 * k) < 1
+    img[:, :x - 1] = drawn(x - 1, h, img[:, :x - 1], stone(1), gold * .9)
+    img[:, :x - 1] = drawn(x - 1, h, img[:, :x - 1], stone(.68), deep)
+    img[:, :x - 1] = drawn(x - 1, h, img[:, :x - 1], lambda i, j: stone(.68)(i, j) & (j < y + lh / 2), deep * 1.18)
+    return settle(img)
 
 
 def main():
     for name, w, h, base, seed, field in (
-            ('Image3', 623, 37, SKY, 11, dividers(170, 321, 464)), ('Image2', 141, 157, SKY, 12, None),
+            ('Image3', 623, 37, SKY, 11, dividers(170, 321, 464)),
             ('Image7', 145, 34, SKY, 13, None), ('Image11', 145, 80, SKY, 14, views_field),
             ('Image10', 145, 55, SKY, 15, vignette), ('Image9', 145, 34, SKY, 16, None),
             ('Image5', 145, 34, SKY, 17, None), ('Image4', 145, 34, SKY, 18, None),
             ('Image6', 145, 258, SKY, 19, tools_field), ('Image8', 178, 37, SKY, 20, None)):
-        save_rgb('panel/' + name, plate(w, h, base, seed, field=field, frame=4 if h > 40 else 5))
+        save_rgb('panel/' + name, plate(w, h, base, seed, field=field))
+    save_rgb('panel/Image2', info())
     for i, name in enumerate(('Picture1', 'Picture2', 'Picture3', 'Picture5', 'Picture6', 'Picture7', 'Picture8', 'Picture9', 'ivir')):
-        save_rgb('panel/' + name, plate(155, 33, PALE, 40 + i))
+        save_rgb('panel/' + name, row(155, 33, PALE, 40 + i))
     marks()
     icon()
 
