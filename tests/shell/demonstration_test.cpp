@@ -36,7 +36,21 @@ TEST(Demonstration, BuildsItsCitySilentlyAndGoesBackToTheMenu) {
   EXPECT_EQ(game->tileCode(18, 10), 7);
   EXPECT_EQ(game->tileCode(18, 11), 0);
 
-  play.run("advance 114000");
+  struct Moment {
+    int step, x, y;
+  };
+  for (const auto& [step, x, y] :
+       {Moment{10, 18, 19}, {14, 19, 17}, {24, 23, 19},  {32, 23, 18}, {36, 21, 17},
+        {39, 20, 1},        {40, 16, 13}, {49, 15, 18},  {53, 13, 17}, {59, 10, 19},
+        {64, 10, 10},       {72, 10, 18}, {74, 16, 15},  {79, 11, 17}, {80, 16, 11},
+        {82, 17, 4},        {84, 17, 19}, {86, 17, 10},  {91, 20, 20}, {96, 20, 8},
+        {97, 24, 13},       {100, 9, 15}, {103, 16, 17}, {105, 20, 4}}) {
+    play.run("advance " + std::to_string(1000 * (step - game->demoStep) - 1));
+    EXPECT_EQ(game->tileCode(x, y), 0) << step;
+    play.run("advance 1");
+    EXPECT_NE(game->tileCode(x, y), 0) << step;
+  }
+  play.run("advance 10000");
   EXPECT_EQ(game->demoStep, 115);
   EXPECT_NE(play("control haber").find("End of demonstration"), std::string::npos);
   play.run("advance 19999");
