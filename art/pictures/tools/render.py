@@ -182,7 +182,8 @@ def finish(name, kind, opts):
     if kind in ('flat', 'tile'):
         above[:] = False
     mask = drop_strays(foot | above, foot)
-    lost = spill(name, kind, opts, mask)
+    # an endless scene goes on over the rim on purpose, to join the next cell
+    lost = [] if opts.get('endless') else spill(name, kind, opts, mask)
     img = rgba(np.where(foot[..., None], comp, col), mask)
     print('   %-10s %5.1f s%s' % (opts.get('as', name), time.time() - t0,
           ', outside the picture: %s' % lost if lost else ''), flush=True)
