@@ -32,11 +32,3 @@ cylinder { <Xa-0.01,Yr,Zr>, <Xb+0.02,Yr,Zr>, 0.016 mPlain(Band*0.8) }
 cylinder { <Xb,Yr,Zr>, <0.95,Yr+0.04,0>, 0.006 mPlain(Rope) }
 cylinder { <X0+0.08,Y1,0.03>, <X0+0.05,Y1+0.09,0>, 0.006 mPlain(Rope) }
 cylinder { <Xb-0.06,Y1,0.03>, <Xb-0.05,Y1+0.09,0>, 0.006 mPlain(Rope) }
-// a hearth of stones
-#declare I = 0;
-#while (I < 7)
-  sphere { <0.042*cos(I*0.9), 0.042*sin(I*0.9), 0.012>, 0.018 translate <0.20,0.50,0> mPlain(cStone*(0.85+0.05*I)) }
-  #declare I = I + 1;
-#end
-sphere { 0, 0.024 scale <1,1,1.3> translate <0.20,0.50,0.02> mPlain(C("F08A2A")) }
-cylinder { <0.14,0.68,0.02>, <0.25,0.72,0.02>, 0.02 mPlain(cWood) }
