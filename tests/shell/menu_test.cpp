@@ -215,4 +215,40 @@ TEST(Menu, SaysThatItLoadsInFrontOfEverything) {
   EXPECT_EQ(play("screen"), "ok frmMain");
 }
 
+TEST(Menu, TellsTheGameScreenWhatToOpen) {
+  struct Start {
+    const char* clicks;
+    const char* chosen;  // gMission, gNewMap, gContinueMission, gLoadPending before the game opens
+    const char* left;    // and after
+  };
+  // Each start follows on what the one before has left behind.
+  const Start starts[] = {
+      {"click mainnew\nclick stcampaign\nclick Label6 0\nclick Command14", "1 0 1 0", "1 0 1 0"},
+      {"click mainload", "15 0 1 0", "15 0 1 1"},
+      {"click mainnew\nclick stopen\nclick opengo", "15 1 0 0", "15 1 0 0"},
+      {"click mainload", "15 1 0 0", "15 0 0 1"},
+      {"click mainnew\nclick stpuzzle\nclick Label20 9", "29 1 0 0", "29 1 0 0"},
+      {"click mainhelp", "16 1 0 0", "16 1 0 0"},
+  };
+  Play play;
+  const auto flags = [&] {
+    std::string all;
+    for (const char* name : {"gMission", "gNewMap", "gContinueMission", "gLoadPending"}) {
+      all += (all.empty() ? "" : " ") + play(std::string("get ") + name).substr(3);
+    }
+    return all;
+  };
+  for (const Start& start : starts) {
+    play.run(start.clicks);
+    EXPECT_EQ(flags(), start.chosen) << start.clicks;
+    play.run("advance 500");
+    EXPECT_EQ(flags(), start.left) << start.clicks;
+    if (control(play, "frameload").visible) {
+      play.run("click cmdcancel\nadvance 500");
+    } else if (control(play, "Frame6").visible) {
+      play.run("click gmmenu\nclick Command19");
+    }
+  }
+}
+
 }  // namespace

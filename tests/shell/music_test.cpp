@@ -1,6 +1,8 @@
 // The music as a listener hears it: which theme starts in which second.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "shell/script_runner.h"
 
 namespace {
@@ -69,6 +71,20 @@ TEST(Music, StopsAtOnceAndComesBackWithTheNextSecond) {
   EXPECT_EQ(listen(play, 126), (Heard{{1, 2}}));
   play.run("choose Combo1 Auto play");
   EXPECT_EQ(listen(play, 83), (Heard{{1, 1}, {83, 2}}));
+}
+
+TEST(Music, LetsThePlayerLeaveWhileAThemeIsBeingOpened) {
+  Play play;
+  openGame(play);
+  bool left = false;
+  play.session().services().letEventsIn = [&] {
+    if (!std::exchange(left, true)) play.run("click gmmenu\nclick Command19\nclick mainnew");
+  };
+  play.run("advance 1000");
+  EXPECT_TRUE(left);
+  EXPECT_EQ(play("screen"), "ok firstmenu");
+  play.run("advance 5000\nclick stopen\nclick opengo\nadvance 500");
+  EXPECT_EQ(play("get musicAuto"), "ok 0");
 }
 
 }  // namespace

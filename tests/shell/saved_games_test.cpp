@@ -37,6 +37,7 @@ TEST(SavedGames, KeepTheNamesThatPeopleType) {
     save(play, name);
     EXPECT_EQ(play("box"), "ok null");
     EXPECT_FALSE(form(play)[ui::framesave].visible);
+    EXPECT_EQ(form(play)[ui::txtsavename].text, name);  // kept for the next time
     play.run("set gold 1\nclick gmmenu\nclick ldgame\nchoose File1 " + name + ".sav");
     play.run("click cmdload\nadvance 500");
     EXPECT_EQ(play("get gold"), "ok 777");

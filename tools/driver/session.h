@@ -22,6 +22,7 @@ class Session {
                                                    std::string& error);
 
   shell::Program& program() { return *program_; }
+  shell::Services& services() { return *services_; }
   platform::VirtualClock& clock() { return clock_; }
   platform::VirtualMedia& media() { return media_; }
   platform::VirtualDisplay& display() { return display_; }
