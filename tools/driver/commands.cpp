@@ -223,7 +223,7 @@ std::string key(Call& call) {
       {"Delete", platform::Key::deleteForward},
   };
   for (const Named& named : kKeys) {
-    if (call.rest != named.name) continue;
+    if (call.words.size() != 1 || call.words[0] != named.name) continue;
     call.desk().key(named.key);
     call.session.program().settle();
     return ok();
@@ -288,7 +288,7 @@ std::string control(Call& call) {
 std::string timer(Call& call) {
   shell::Screen* screen = call.session.program().screen();
   if (screen == nullptr) return error("the program has ended");
-  const int id = screen->timers().find(call.rest);
+  const int id = call.words.size() == 1 ? screen->timers().find(call.words[0]) : -1;
   if (id < 0) return error("no such timer");
   return ok((screen->timers().enabled(id) ? "on " : "off ") +
             std::to_string(screen->timers().interval(id)));

@@ -167,9 +167,6 @@ bool find(State state, std::string_view name, std::span<const int> indices, std:
   if (const int n = numberBehind("puzzleDone", name, 10); n != 0) {
     return wantIndices(indices, 0, error) && use(state.values->puzzleDone[n]);
   }
-  if (const int n = numberBehind("reserved", name, 15); n != 0 && state.game != nullptr) {
-    return wantIndices(indices, 0, error) && use(state.game->reserved[n]);
-  }
   bool known = false;
   if (findIn<ProgramValues>(*state.values, kProgramNames, name, indices, error, use, known)) {
     return true;
@@ -177,7 +174,10 @@ bool find(State state, std::string_view name, std::span<const int> indices, std:
   if (known) return false;
   core::GameState none;
   core::GameState& game = state.game != nullptr ? *state.game : none;
-  const bool found = findIn<GameState>(game, kGameNames, name, indices, error, use, known);
+  const int reserved = numberBehind("reserved", name, 15);
+  known = reserved != 0;
+  const bool found = known ? wantIndices(indices, 0, error) && use(game.reserved[reserved])
+                           : findIn<GameState>(game, kGameNames, name, indices, error, use, known);
   if (known && state.game == nullptr) {
     error = "no game is open";
     return false;
