@@ -29,7 +29,7 @@ STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
 EDGES = np.array([e for e, _ in PROFILE])
-PAVING, SEAM = to_lin(rgb('a09888')), to_lin(rgb('857d6d'))
+PAVING, SEAM, SILL = (to_lin(rgb(c)) for c in ('a09888', '766e60', 'bfb6a2'))
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
@@ -125,8 +125,8 @@ def ramp(t):
 def junction():
     """Four arms; each quarter of the cell turns round its own vertex, and the
     wheel tracks fade into even paving.  The picture also stands where three
-    arms meet: a seam along each edge, hardly darker than the paving, closes
-    the side without a road and is a joint of the stones where there is one.
+    arms meet: a row of flush stones along each edge, little lighter than the
+    paving, closes the side without a road and is a joint where there is one.
     It keeps off the corners, alike on all four sides, since a walker's block
     covers one of them."""
     def paint(u, v):
@@ -139,8 +139,9 @@ def junction():
         edge, along = np.minimum(du, dv), np.maximum(du, dv)
         even = .9 * ramp((edge - .12) / .12) * ramp((np.hypot(du, dv) - .26) / .10)
         out = out * (1 - even) + PAVING * even
-        seam = .8 * ramp((along - .28) / .06) * (edge < .035)[..., None]
-        return out * (1 - seam) + SEAM * seam
+        seam = .75 * ramp((along - .29) / .03)
+        return np.where((edge < .07)[..., None],
+                        out * (1 - seam) + np.where((edge < .03)[..., None], SEAM, SILL) * seam, out)
 
     img = rgba(to_srgb(supersampled(paint)), diamond_mask())
     u, v = cell_uv()
