@@ -17,7 +17,7 @@ def land():
     half = 1.25 + .012 * np.clip(Y, 0, 60)
     sd = river - half + .22 * w.noise(2.2, 3) + .08 * w.noise(.7, 4)
     w.Z = (.35 + .5 * w.fbm(9, 11, 4) + .10 * w.fbm(2.2, 15, 2)).astype(np.float32)
-    for x, y, rx, ry, h in ((-12.5, 18, 5.2, 5.0, 3.9), (-13, 11, 7, 5, 1.2), (-26, 24, 9, 9, 4), (18.5, 26, 5, 5, 2.6), (27, 36, 9, 9, 5.5), (-22, 44, 12, 10, 5), (-2, 56, 12, 8, 4.2),
+    for x, y, rx, ry, h in ((-12.5, 18, 5.2, 5.0, 3.9), (-13, 11, 7, 5, 1.2), (-26, 24, 9, 9, 4), (19.4, 26, 5, 5, 2.6), (27, 36, 9, 9, 5.5), (-22, 44, 12, 10, 5), (-2, 56, 12, 8, 4.2),
                             (-36, 58, 14, 10, 8), (24, 60, 14, 9, 7.5), (12, 70, 10, 5, 4), (40, 52, 10, 12, 9), (-14, 68, 12, 6, 5), (-9, -11, 4, 4, .8), (9.5, -10, 3, 4, .7), (20, 6, 5, 6, .9)):
         w.hill(x, y, rx, ry, h)
     flat = smooth(.2, 5.5, sd)
@@ -52,10 +52,10 @@ def land():
     walls(w)
     town(w)
     w.things.append('object { Bridge(4.7, 1.15) scale <1,1,1.5> rotate z*-82 translate <8.25,9.5,0.26> }')
-    for n, x, y, s, a in (('Mill', 18.6, 25.5, 2.6, 180), ('Church', 12.9, 14.6, 2.3, 195), ('Barn', 19.5, 13.5, 1.6, 170), ('Barn', 8.8, -1.8, 1.5, 200)):
+    for n, x, y, s, a in (('Mill', 20.4, 25.6, 2.6, 180), ('Church', 12.9, 14.6, 2.3, 195), ('Barn', 19.5, 13.5, 1.6, 170), ('Barn', 8.8, -1.8, 1.5, 200)):
         w.put(n, x, y, s, a, .05)
         w.busy |= np.hypot(X - x, Y - y) < .7 * s
-    for n, x, y, s, a in (('BoatA', 5.6, 1.4, 1.25, 20), ('BoatB', 10.6, 13.3, 1.2, 200), ('Row', 4.4, -2.7, 1.2, 60), ('BoatA', 10.4, 22.0, 1.2, 10)):
+    for n, x, y, s, a in (('BoatA', 5.6, 1.4, 1.25, 20), ('BoatB', 11.2, 17.6, 1.1, 200), ('Row', 4.4, -2.7, 1.2, 60), ('BoatA', 10.4, 22.0, 1.2, 10)):
         w.put(n, x, y, s, a, z=-.05)
     for _ in range(9):
         w.put('Sheep', 1.9 + .8 * w.r.randn(), -.8 + .7 * w.r.randn(), .58 + .12 * w.r.rand(), 360 * w.r.rand())
@@ -135,7 +135,7 @@ def town(w):
             w.put(kinds[k], px, py, s, a, .10)
             taken.append((px, py))
     w.put('Church', -2.0, 12.4, 2.7, 190, .1)
-    for x, y in ((11.6, 12.6), (14.6, 13.9), (11.0, 17.0), (13.4, 17.6), (15.4, 16.0), (16.4, 11.6), (13.2, 8.6), (15.2, 9.2), (18.2, 15.6), (14.9, 19.2), (16.8, 18.9), (11.2, 8.0), (18.6, 11.3), (17.5, 9.2), (20.5, 17.2),
+    for x, y in ((12.8, 12.2), (14.6, 13.9), (22.4, 19.0), (13.4, 17.6), (15.4, 16.0), (16.4, 11.6), (13.2, 8.6), (15.2, 9.2), (18.2, 15.6), (14.9, 19.2), (16.8, 18.9), (11.2, 8.0), (18.6, 11.3), (17.5, 9.2), (20.5, 17.2),
                  (-8.2, -.6), (-10.4, .2), (9.4, .6), (11.4, -.4)):
         w.put(kinds[r.randint(6)], x, y, 1.3 + .25 * r.rand(), 180 + 25 * r.randn() + (90 if r.rand() < .25 else 0), .08)
         taken.append((x, y))
@@ -215,9 +215,9 @@ def sky():
         p = (p - p.min()) / (p.max() - p.min())
         edge = base - amp * p * (.55 + .45 * np.abs(xs - 400) / 400)
         depth = y - edge[None, :]
-        slope = blur(np.gradient(p)[None, :].repeat(3, 0), 1.0)[1]
-        rib = blur(field(34, 40, seed + 7, 4), 1.2) - .5
-        s = np.clip(.45 + slope[None, :] * 26 * np.exp(-np.clip(depth, 0, 99) / 26) + 1.1 * rib, 0, 1)[..., None]
+        # lit as uneven slopes: spurs run out aslant, and none keeps its course downwards
+        lie = blur(field(46, 22, seed + 7, 4) + .35 * field(90, 60, seed + 9, 2), 1.4)
+        s = np.clip(.48 + 5.5 * (lie - moved(lie, 4, 3)), 0, 1)[..., None]
         c = hx(colour) + (hx(light) - hx(colour)) * s
         c = c + (hx('F3D9B0') - c) * np.clip(depth / 70, 0, .65)[..., None]
         img += (c - img) * np.clip(depth + .5, 0, 1)[..., None]
