@@ -95,7 +95,8 @@ struct NumberRule {
   Rule rule;
 };
 inline constexpr NumberRule kRules[] = {
-    {&V::gMission,      {[](double v) { return isWholeWithin(v, 1, 10) || isWholeWithin(v, 15, 16) ||
+    // 11 stands in a game that was saved in the last second of the last mission.
+    {&V::gMission,      {[](double v) { return isWholeWithin(v, 1, 11) || isWholeWithin(v, 15, 16) ||
                                                isWholeWithin(v, 20, 29); },  "no such mission"}},
     {&V::gMapSize,      {[](double v) { return isWholeWithin(v, 4, 28) &&
                                                static_cast<int>(v) % 2 == 0; },

@@ -211,7 +211,7 @@ TEST(Record, ValuesByWhichTheProgramWouldLeaveItsTablesAreRefused) {
     int line, field;
     const char *good, *bad;
   } cases[] = {
-      {1, 1, "1,10,15,16,20,29,", ",0,11,14,17,19,30,1.5,"},  // gMission
+      {1, 1, "1,11,15,16,20,29,", ",0,12,14,17,19,30,1.5,"},  // gMission
       {2, 1, "4,28,18.,", ",2,30,5,4.5,-4,"},                 // gMapSize
       {2, 4, "1,12,", ",0,13,1.5,"},                          // month, both copies
       {9, 12, "1,12,", ",0,13,1.5,"},
