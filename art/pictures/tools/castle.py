@@ -25,7 +25,7 @@ def castle():
     dens = smooth(.08, .16, rim) * np.clip(.22 + .8 * smooth(-.1, .3, w.fbm(2.6, 70, 2)) + .5 * smooth(.5, .2, rim), 0, 1)
     w.wood(dens * .85, .29, lambda x, y, k: leafy[int(k * 7)], (.34, .56), 259)
     w.wood(np.where(rim > .07, .55, 0), .21, ('ShrA', 'ShrB'), (.16, .30), 259)
-    w.C *= smooth(-.02, .10, rim)[..., None]
+    w.C *= smooth(.015, .045, rim)[..., None]
     w.Z = np.where(rim < 0, 3.0 * np.clip(rim, -2, 0), 0).astype(np.float32)
     w.write()
     x0, y0, W, H = CASTLE
