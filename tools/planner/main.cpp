@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
   const std::string wanted = argc == 3 ? argv[2] : "";
   bool good = true;
   for (int level = 1; level <= planner::kPuzzles; ++level) {
-    char name[16];
+    char name[32];
     std::snprintf(name, sizeof name, "puzzle%02d", level);
     if (!wanted.empty() && wanted != name) continue;
     good = plan(assets, folder, name, planner::playPuzzle, level) && good;
