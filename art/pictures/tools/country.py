@@ -307,7 +307,7 @@ def band():
     w.wood(np.where(rim > .15, .06 * smooth(.15, .5, d) + .5 * smooth(.05, .3, dens) * (dens < .8), 0), .26, ('ShrA', 'ShrB'), (.16, .30), 33)
     w.wood(np.where((np.abs(pond - .02) < .05) & (brook > .3) & (w.noise(1.1, 90) > -.1), .75, 0), .17, ('Reeds',), (.32, .5), 33)
     w.put('BoatA', 16.9, 2.6, .5, -20, z=-.05)
-    w.C *= smooth(.0, .13, rim)[..., None]
+    w.C *= smooth(.015, .045, rim)[..., None]
     w.Z = np.where(rim < 0, w.Z + 3.0 * np.clip(rim, -2, 0), w.Z).astype(np.float32)
     w.write()
     X0, Y0, W, H = BAND
@@ -341,13 +341,13 @@ def coast(harbour=False):
     bank = per * (1 - bend) + free * bend
     line, _ = w.along([(1.42, 5.0), (1.42, 3.6), (1.62, 2.6), (2.12, 2.05), (2.9, 1.75), (4.0, 1.62), (5.6, 1.55), (7.5, 1.15), (10, .70), (13, 1.05), (16, .75), (19, 1.15), (22, .7), (25, 1.0), (29, .9)])
     line = np.where(Y > 3.6, np.abs(X - 1.42), np.where(line > 2.4, 3, line))
-    half = 1.72 - .42 * smooth(3.5, 7, X)
+    half = 1.72 - .42 * smooth(3.5, 7, X) - .95 * smooth(23.2, 26.2, X) - .9 * smooth(25.2, 26.9, X)    # its upper end lies in a wood
     sd = (line - half + bank).astype(np.float32)        # negative in the river
     far = (X < 1.42) & (Y > 3.2) | (Y < 1.0)
     rim = np.minimum(np.minimum(X, Y) + 3.7, (X + Y) * .62 + .2)
     rim = np.where(Y > .3, np.minimum(rim, X + .92 + per * .8), rim)
     rim = np.minimum(rim, (28.6 - (X - Y)) * .7)
-    rim = np.minimum(rim, F - X) + .35 * w.noise(1.7, 3) * smooth(1.5, -.5, Y) + .10 * w.noise(.5, 4) * smooth(1.5, -.5, Y)
+    rim = np.minimum(rim, F + .5 * smooth(3.7, 2.4, Y) - X) + .35 * w.noise(1.7, 3) * smooth(1.5, -.5, Y) + .10 * w.noise(.5, 4) * smooth(3.4, 2.4, Y) * (X > 6)
     inland = np.maximum(-Y, 0)
     w.Z = (smooth(.3, 3.2, -Y) * (.30 + .5 * w.fbm(5, 11, 3))).astype(np.float32)
     for x, y, rx, ry, h in ((2.0, -2.0, 1.8, 1.2, .35), (7, -2.8, 2.2, 1.2, .9), (12, -2.6, 2.6, 1.2, 1.1), (18, -2.9, 2.4, 1.3, 1.5), (23.5, -2.4, 2.2, 1.3, 1.1)):
@@ -374,7 +374,7 @@ def coast(harbour=False):
     for k, (x, y, t) in enumerate(((10.0, -.45, 5), (8.1, -1.35, 5), (17.7, 3.1, 5))):
         w.garden(x, y, t, k)
     w.put('Arch', 15.0, .92, 1., 0, z=.02)
-    w.patchwork(20.2, -1.0 - .3, 3, (1.4, 1.3), (1.1, 1.0), ('wheat', 'corn', 'clover', 'wheat'))
+    w.patchwork(20.2, -1.55, 3, (1.4, 1.3), (1.1, 1.0), ('wheat', 'corn', 'clover', 'wheat'))
     w.patchwork(25.0, -2.6, 0, (1.4, 1.2), (1.1,), ('rape', 'corn'))
     w.patchwork(4.9, -1.2, 4, (1.3, 1.2), (1.0,), ('wheat', 'corn'))
     w.patchwork(16.3, -2.4, -4, (1.2,), (1.1,), ('vine',))
@@ -423,8 +423,10 @@ def coast(harbour=False):
     w.wood(np.where(open_ & (Y < 3.3), .05 * smooth(.2, .5, sd), 0), .34, ('OakA', 'OakD', 'OakC', 'ShrA', 'PopA', 'ShrB', 'ShrA'), (.34, .52), lid)
     w.wood(np.where(open_, .07 * smooth(.15, .3, sd), 0), .26, ('ShrA', 'ShrB'), (.16, .28), lid)
     w.wood(np.where(land & (np.abs(sd - .03) < .07) & (w.noise(1.3, 90) > .05), .8, 0), .16, ('Reeds',), (.30, .5), lid)
-    for k, (y, x, n, s) in enumerate(((.80, -.62, 'ShrA', .30), (1.15, -.58, 'ShrB', .24), (1.50, -.66, 'ShrA', .34), (1.95, -.62, 'ShrB', .36), (2.3, -.60, 'ShrA', .30),
-                                      (2.75, -.66, 'OakD', .36), (3.15, -.62, 'OakA', .44), (3.5, -.66, 'OakB', .50), (3.85, -.60, 'OakC', .46), (4.2, -.64, 'OakA', .52), (4.48, -.55, 'ShrA', .30),
+    # trees on all of the far bank but the stretch where a picture has no room above
+    for k, (y, x, n, s) in enumerate(((.55, -.64, 'OakD', .34), (.86, -.60, 'ShrA', .32), (1.08, -.66, 'ShrB', .28), (1.30, -.58, 'ShrA', .34), (1.56, -.66, 'OakD', .38), (1.84, -.60, 'OakB', .42),
+                                      (2.14, -.68, 'OakA', .40), (2.36, -.54, 'ShrB', .28), (2.60, -.64, 'OakE', .38), (2.92, -.60, 'OakB', .46), (3.22, -.68, 'OakA', .40), (3.42, -.54, 'ShrA', .28),
+                                      (3.66, -.64, 'OakC', .44), (4.00, -.62, 'OakB', .40),
                                       (1.75, -.34, 'Reeds', .40), (1.9, -.36, 'Reeds', .34), (3.0, -.34, 'Reeds', .40), (3.6, -.33, 'Reeds', .36), (3.75, -.35, 'Reeds', .42),
                                       (.9, 3.30, 'Reeds', .36), (1.05, 3.28, 'Reeds', .42), (2.6, 3.14, 'Reeds', .38), (2.45, 3.52, 'ShrA', .20), (1.4, 3.62, 'ShrB', .17), (3.7, 3.60, 'ShrA', .18))):
         for i in range(-1, 8):
@@ -454,7 +456,7 @@ def coast(harbour=False):
         w.put('Jetty', 1.35, cy + .75, .40, 92, z=.0)
         w.put('BoatA', 2.45, cy + .85, .58, -78, z=-.06)
         w.put('Row', .85, cy + 1.15, .5, 60, z=-.06)
-    w.C *= smooth(.0, .10, rim)[..., None]
+    w.C *= smooth(.015, .045, rim)[..., None]
     w.Z = np.where(rim < 0, w.Z + 3.0 * np.clip(rim, -2, 0), w.Z).astype(np.float32)
     w.write()
     return w
@@ -482,7 +484,11 @@ def water_pictures():
     # the water picture that repeats: one slice of the river
     u, v = cells(699, 80)
     free = ~crop(inside, 699, 80, 288, 144)
-    plain = np.where(((v > 0) & (v < 4.5) & free)[..., None], per(699, 80), 0)
+    # The last one ends with the map, its water in a wavy line.  The others are
+    # whole all the same, since their neighbours begin before that.
+    swell = .09 * np.sin(4.1 * u + .9) + .045 * np.sin(8.7 * u + 2.1)
+    last = 27 - Y1 - 6 * P + swell * smooth(-.5, .0, u) * smooth(3.05, 2.4, u)
+    plain = np.where(((v > 0) & (v < last) & free)[..., None], per(699, 80), 0)
     save_rgb('mask/53', plain)
     # the first one: the bend; its lower tip is as in the others
     u, v = cells(821, 19)
