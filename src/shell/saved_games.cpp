@@ -128,13 +128,14 @@ void clickLoad(GameScreen& screen) {
     return;
   }
   // The file is read and checked whole before anything on the screen changes: one that is no sound game
-  // leaves the running one as it was.
+  // leaves the running one as it was, and a load that waits already goes on.
   std::string error;
-  screen.waitingRecord() = store::readGame(screen.folder() + "/" + *name, error);
-  if (screen.waitingRecord() == nullptr) {
+  auto record = store::readGame(screen.folder() + "/" + *name, error);
+  if (record == nullptr) {
     scene.desk.showBox(kLoadError, error);
     return;
   }
+  screen.waitingRecord() = std::move(record);
   if (scene.form[ui::Frame21].visible) {
     scene.form.hide(ui::Frame21);
     scene.timers.disable(timer::Timer14);
