@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 #include "core/game_controls.h"
 
@@ -35,6 +36,7 @@ std::string Hands::next(driver::Session& session) {
     lastY_ = chance_.between(0, 30);
     return cell(session, 2);
   }
+  if (std::sscanf(command.c_str(), "at %d %d", &lastX_, &lastY_) == 2) return cell(session, 0);
   if (command == "near") return cell(session, 2);
   if (command == "on x" || command == "on y") {
     ++(command == "on x" ? lastX_ : lastY_);
@@ -161,8 +163,10 @@ void Hands::planInGame(driver::Session& session) {
     add("file");
     add(chance_.percent(90) ? "click cmdload" : "click cmdcancel");
     add("advance 600");
-  } else if (kind < 9) {
+  } else if (kind < 5) {
     planTown();
+  } else if (kind < 9) {
+    planStreet(session);
   } else if (kind < 11) {
     add("click gmmenu");
     add("click savegame");
@@ -212,6 +216,38 @@ void Hands::planTown() {
     for (int presses = chance_.between(1, index == kRoad ? 9 : 4); presses > 0; --presses) {
       add("near");
     }
+  }
+}
+
+/// A street with buildings on both sides; at times it is cut afterwards.
+void Hands::planStreet(driver::Session& session) {
+  const int side = session.program().values().gMapSize.whole();
+  const int first = (30 - side) / 2;
+  const int length = std::min(chance_.between(6, 16), side);
+  const int x = chance_.between(first, first + side - length + 1);
+  const int y = chance_.between(first, first + side);
+  const bool alongX = chance_.percent(50);
+  const auto press = [&](int along, int across) {
+    add("at " + to_string(alongX ? x + along : y + across) + " " +
+        to_string(alongX ? y + across : x + along));
+  };
+  const auto take = [this](int index) { add("click Command1 " + to_string(index)); };
+  add("click building");
+  for (int n = 0; n < length; ++n) press(n, 0);
+  for (int n = 0; n + 1 < length; n += 2) {
+    for (const int across : {1, -2}) {
+      take(chance_.percent(70) ? 0 : chance_.between(1, 5));
+      press(n, across);
+    }
+  }
+  if (chance_.percent(60)) {
+    take(8);
+    press(length, chance_.between(-2, 2));
+  }
+  if (chance_.percent(20)) {
+    take(6);
+    press(chance_.draw(length), chance_.between(-1, 1));
+    add("advance " + to_string(chance_.between(1, 8) * 1000));
   }
 }
 

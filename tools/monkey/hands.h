@@ -26,10 +26,11 @@ class Hands {
   void planInMenu();
   void planInGame(driver::Session& session);
   void planTown();
+  void planStreet(driver::Session& session);
   void add(std::string command) { plan_.push_back(std::move(command)); }
 
   Chance& chance_;
-  std::deque<std::string> plan_;  // commands, and words for clicks on the map
+  std::deque<std::string> plan_;  // commands, and words for presses on the map
   int lastX_ = 15;
   int lastY_ = 15;
 };

@@ -1,7 +1,7 @@
 #include "monkey/mischief.h"
 
-#include "core/goals.h"
 #include "platform/files.h"
+#include "scenario/missions.h"
 #include "store/record.h"
 
 namespace monkey {
@@ -86,22 +86,28 @@ std::string Mischief::enrich() {
   game.gold = chance_.between(8000, 30000);
   game.food = chance_.between(2000, 9000);
   for (int n = 1; n <= 4; ++n) game.toolUnlocked[n] = 1;
-  // Walls stand where other squares have land.
-  const bool walled = values.gMission == 9 || values.gMission == 10;
-  if (chance_.percent(30)) {
-    constexpr int kGoesOn[] = {2, 3, 5, 6, 8, 10};
-    values.gMission = walled ? 10 : chance_.pick(kGoesOn);
-    if (!walled && values.gMission == 10) values.gMission = 8;
+  // Backdrops and walls fit squares of one size.
+  const auto fits = [&](int mission) {
+    const bool walled = values.gMission == 9 || values.gMission == 10;
+    if (mission > scenario::kMissions) return !walled;
+    return scenario::mission(mission).mapSize == values.gMapSize;
+  };
+  constexpr int kGoesOn[] = {2, 3, 5, 6, 8, 10};
+  const int next = chance_.pick(kGoesOn);
+  if (chance_.percent(50) && fits(next)) {
+    values.gMission = next;
     name = "mission" + std::to_string(values.gMission.whole()) + ".dat";
-  } else if (chance_.percent(50) && !walled) {
+  } else if (chance_.percent(50)) {
     constexpr struct {
       int mission, year, month;
     } kEvents[] = {{3, 1719, 2},  {2, 1718, 1},  {3, 1719, 12}, {7, 1727, 12},  {1, 1716, 12},
                    {4, 1720, 12}, {5, 1722, 12}, {15, 1716, 5}, {20, 1715, 12}, {22, 1715, 12}};
     const auto& event = chance_.pick(kEvents);
-    values.gMission = event.mission;
-    values.gYear = event.year;
-    game.month = event.month;
+    if (fits(event.mission)) {
+      values.gMission = event.mission;
+      values.gYear = event.year;
+      game.month = event.month;
+    }
   }
   if (!store::saveGame(folder_ + "/" + name, game, values, error)) return error;
   return "enriched " + name;

@@ -37,6 +37,15 @@ bool isLane(const core::GameState& game, int px, int py) {
   return image == core::kRoadAlongX || image == core::kRoadAlongY;
 }
 
+bool isUnderTallPicture(const core::GameState& game, int px, int py) {
+  for (int y = 0; y <= core::kLastCell; ++y) {
+    for (int x = 0; x <= core::kLastCell; ++x) {
+      if (game.cellTall(x, y) == 1 && boxOf(x, y).contains({px, py})) return true;
+    }
+  }
+  return false;
+}
+
 /// Where the surface need not be what the cells say.
 std::vector<Rect> exceptions(const core::GameState& game, const core::ProgramValues& values) {
   std::vector<Rect> rects;
@@ -123,9 +132,13 @@ void Watch::watchSurface() {
   platform::Point at;
   const std::vector<Rect> except = exceptions(*game(), values());
   const auto excepted = [&](int x, int y) {
-    // The corners of a block can stand out over the end of a road; nothing paints the ground there.
+    // The corners of a block can stand out over the end of a road, where nothing paints the ground,
+    // and not every tall picture that it touches is painted again before the next redraw.
     const auto pixel = static_cast<std::size_t>(y * surface.width() + x);
-    if (!walked_.empty() && walked_[pixel] && !isLane(*game(), x, y)) return true;
+    if (!walked_.empty() && walked_[pixel] &&
+        (!isLane(*game(), x, y) || isUnderTallPicture(*game(), x, y))) {
+      return true;
+    }
     return std::any_of(except.begin(), except.end(), [&](const Rect& rect) {
       return rect.contains({x, y});
     });

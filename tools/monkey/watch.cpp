@@ -6,6 +6,7 @@
 #include "core/vocabulary.h"
 #include "platform/files.h"
 #include "scenario/missions.h"
+#include "shell/game_screen.h"
 #include "shell/menu_controls.h"
 #include "store/record.h"
 
@@ -53,6 +54,7 @@ void Watch::newScreen() {
   spoilt_ = stale_ = shaken_ = misplaced_ = false;
   onSince_.fill(-1);
   loading_.clear();
+  loadingRecord_ = nullptr;
   walked_.clear();
   nextId_ = -1;
   if (game() == nullptr) return;
@@ -134,7 +136,10 @@ void Watch::after(bool dear) {
 /// A load that has ended must have left what the file holds.
 void Watch::watchLoad() {
   const platform::Form& form = screen()->form();
-  if (on(timer::Timer3) && loading_.empty()) {
+  // A second press on Load may come before the first has been carried out, with another name.
+  const void* record = static_cast<shell::GameScreen*>(screen())->waitingRecord().get();
+  if (on(timer::Timer3) && record != loadingRecord_) {
+    loadingRecord_ = record;
     const platform::ListContent& list = *form[ui::File1].list;
     if (list.selected < 0) return wrong("a load without a name");
     loading_ = list.items[static_cast<std::size_t>(list.selected)];
@@ -154,6 +159,7 @@ void Watch::watchLoad() {
       if (!fault.empty()) wrong(loading_ + ": " + fault);
     }
     loading_.clear();
+    loadingRecord_ = nullptr;
     tickOfMonth_ = game()->tickOfMonth;
     month_ = game()->month;
   }
@@ -296,8 +302,10 @@ void Watch::watchIds() {
       const double id = g.buildingId(x, y);
       if (id == ids_(x, y)) continue;
       const bool built = id >= nextId_ && id < g.nextBuildingId;
-      if (!built)
-        wrong("the id of a cell has changed at " + std::to_string(x) + "," + std::to_string(y));
+      if (!built) {
+        wrong("the id of a cell has changed at " + std::to_string(x) + "," + std::to_string(y) +
+              " from " + std::to_string(ids_(x, y)) + " to " + std::to_string(id));
+      }
     }
   }
   ids_ = g.buildingId;

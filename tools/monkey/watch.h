@@ -85,6 +85,7 @@ class Watch {
   std::string loading_;  // the game that is being loaded, what its file holds, whether it is spoilt
   std::string loadingText_;
   bool loadingSpoilt_ = false;
+  const void* loadingRecord_ = nullptr;
   std::string saving_;  // name on the save panel before the event
 
   double tickOfMonth_ = 0;
