@@ -5,6 +5,8 @@
 #include <random>
 
 #include "core/vocabulary.h"
+#include "play/panels.h"
+#include "play/preferences.h"
 #include "play/press.h"
 #include "shell/game_screen.h"
 #include "shell/open_game.h"
@@ -23,31 +25,36 @@ bool same(const platform::Surface& a, const platform::Surface& b) {
 TEST(Picture, AfterEveryChangeItIsAsIfPaintedAnew) {
   OpenGame play;
   play.run("click Command5\nclick spriteonoff\nset population 1000\nadvance 1000\nclick Command21");
-  play.run("click Command7\nclick Statusreport");
+  play.run("click Command7");
   auto& screen = static_cast<shell::GameScreen&>(*play.session().program().screen());
   platform::Surface seen(screen.canvas()->surface().width(), screen.canvas()->surface().height());
   std::minstd_rand chance(11);
   const auto below = [&chance](int n) {
     return static_cast<int>(chance() % static_cast<unsigned>(n));
   };
-  constexpr const char* kOther[] = {"click taxrateplus", "click taxrateminus", "advance 3000",
-                                    "advance 8000",      "click zoomminus",    "set food 500",
-                                    "set food 0"};
-  for (int n = 0; n < 400; ++n) {
-    play.run("set gold 1000");
-    std::string did;
-    if (n % 8 == 7) {
-      // Panels lie over one another here; what stands on top is as good as what is meant.
-      did = kOther[below(7)];
-      play(did);
+  // Time brings months, fields and the loss of what stands without a road.
+  const auto waitSeconds = [&](int seconds) {
+    play.run("advance " + std::to_string(1000 * seconds));
+  };
+  for (int n = 0; n < 500; ++n) {
+    play.state().gold = 1000;
+    if (n % 50 == 0) play.state().food = below(2) * 500;
+    const int did = n < 60 ? 4 : below(16);
+    if (did == 0) {
+      waitSeconds(8);
+    } else if (did == 1) {
+      waitSeconds(1 + below(3));
+    } else if (did == 2) {
+      below(2) == 0 ? play::raiseTax(screen.scene()) : play::lowerTax(screen.scene());
+    } else if (did == 3) {
+      play::toggleFarmAnimation(screen.scene());
     } else {
-      // Roads first; later every tool, on a small square, so that buildings meet and give way.
-      const int tool = n < 40 || below(3) == 0 ? 8 : 1 + below(9);
+      // Roads along four lines, and every tool around them, so that buildings meet and give way.
+      const int tool = did < 6 ? 8 : did < 9 ? 7 : 1 + below(9);
       play.state().currentTool = tool;
       play.state().cursorFootprint = core::toolDesign(tool).footprint;
-      play.state().cellX = 11 + below(9);
-      play.state().cellY = 11 + below(9);
-      did = "tool " + std::to_string(tool);
+      play.state().cellX = 9 + below(12);
+      play.state().cellY = did < 8 ? 9 + 4 * below(4) : 9 + below(12);
       play::useTool(screen.scene(), tool, play::Hand::player);
     }
     platform::BitBlt(seen, 0, 0, seen.width(), seen.height(), screen.canvas()->surface(), 0, 0,
@@ -56,7 +63,7 @@ TEST(Picture, AfterEveryChangeItIsAsIfPaintedAnew) {
     map::markCells(play.state(), 0, core::kLastCell);
     play::redraw(screen.scene());
     play.state().cellDirty = marks;
-    ASSERT_TRUE(same(seen, screen.canvas()->surface())) << n << ": " << did;
+    ASSERT_TRUE(same(seen, screen.canvas()->surface())) << "step " << n << ", kind " << did;
   }
 }
 
