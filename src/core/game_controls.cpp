@@ -2,70 +2,28 @@
 
 #include <array>
 
+#include "core/control_rows.h"
+
 namespace core {
 
 namespace {
 
 using namespace game_control;
-using platform::Align;
-using platform::Color;
-using platform::ControlDesign;
-using platform::ControlKind;
-using platform::FontSize;
-using platform::Heading;
-using platform::kNoParent;
-using platform::kSingle;
-using platform::Rect;
+using namespace rows;
 
-constexpr Color kPanel{140, 179, 242};
 constexpr Color kFloating{192, 192, 255};
 constexpr Color kRow{172, 170, 253};
-constexpr Color kPlate{203, 221, 241};
 constexpr Color kBanner{255, 252, 226};
 
-// Where panels wait until something places them.
-constexpr int kParked = 1000;
-
-constexpr ControlDesign frame(const char* name, int parent, Rect place, Color back,
-                              bool visible = true) {
-  return {.name = name,
-          .kind = ControlKind::frame,
-          .parent = parent,
-          .place = place,
-          .back = back,
-          .opaque = true,
-          .visible = visible};
-}
 constexpr ControlDesign panel(const char* name, Rect place, const char* caption) {
-  return {.name = name,
-          .kind = ControlKind::frame,
-          .place = place,
-          .text = caption,
-          .font = FontSize::pt14,
-          .back = kFloating,
-          .opaque = true,
-          .border = true,
-          .visible = false,
-          .heading = Heading::title};
+  ControlDesign design = hidden(bordered(frame(name, kNoParent, place, kFloating)));
+  design.text = caption;
+  design.font = FontSize::pt14;
+  design.heading = Heading::title;
+  return design;
 }
-constexpr ControlDesign image(const char* name, int parent, int width, int height) {
-  return {.name = name,
-          .kind = ControlKind::image,
-          .parent = parent,
-          .place = {0, 0, width, height},
-          .image = name};
-}
-constexpr ControlDesign label(const char* name, int parent, Rect place, const char* text,
-                              FontSize font = FontSize::pt11, Align align = Align::left,
-                              int index = kSingle) {
-  return {.name = name,
-          .index = index,
-          .kind = ControlKind::label,
-          .parent = parent,
-          .place = place,
-          .text = text,
-          .font = font,
-          .align = align};
+constexpr ControlDesign wholeImage(const char* name, int parent, int width, int height) {
+  return image(name, parent, {0, 0, width, height});
 }
 // A label that acts as a button of the right-hand panel.
 constexpr ControlDesign knob(const char* name, int parent, Rect place, const char* text,
@@ -75,31 +33,7 @@ constexpr ControlDesign knob(const char* name, int parent, Rect place, const cha
 // A label with a background of its own, as in the rows of a table.
 constexpr ControlDesign cell(const char* name, int parent, Rect place, const char* text,
                              FontSize font, Align align, int index = kSingle) {
-  ControlDesign d = label(name, parent, place, text, font, align, index);
-  d.back = kRow;
-  d.opaque = true;
-  return d;
-}
-constexpr ControlDesign button(const char* name, int parent, Rect place, const char* text,
-                               FontSize font = FontSize::pt11) {
-  return {.name = name,
-          .kind = ControlKind::button,
-          .parent = parent,
-          .place = place,
-          .text = text,
-          .font = font,
-          .align = Align::centre,
-          .back = kPlate,
-          .opaque = true};
-}
-constexpr ControlDesign box(const char* name, int parent, Rect place, Color back) {
-  return {.name = name,
-          .kind = ControlKind::box,
-          .parent = parent,
-          .place = place,
-          .back = back,
-          .opaque = true,
-          .border = true};
+  return on(kRow, label(name, parent, place, text, font, align, index));
 }
 constexpr ControlDesign line(int index) {
   return {.name = "Line1",
@@ -108,14 +42,6 @@ constexpr ControlDesign line(int index) {
           .parent = picScroll,
           .fore = platform::kGreen,
           .visible = false};
-}
-constexpr ControlDesign tooltip(ControlDesign d, const char* text) {
-  d.tooltip = text;
-  return d;
-}
-constexpr ControlDesign hidden(ControlDesign d) {
-  d.visible = false;
-  return d;
 }
 
 constexpr ControlDesign view(int n, const char* text) {
@@ -145,7 +71,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   for (int n = 0; n < 8; ++n) t[Line1 + n] = line(n);
 
   t[Frame14] = frame("Frame14", kNoParent, {0, 0, 623, 37}, kPanel);
-  t[Image3] = image("Image3", Frame14, 623, 37);
+  t[Image3] = wholeImage("Image3", Frame14, 623, 37);
   t[pop1] = tooltip(label("pop1", Frame14, {16, 8, 150, 20}, "Population:0"),
                     "The population of your settlement");
   t[para1] = tooltip(label("para1", Frame14, {176, 8, 140, 20}, "Gold:"),
@@ -156,21 +82,21 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
   t[Frame6] = frame("Frame6", kNoParent, {624, -16, 177, 618}, kPanel);
   t[Frame16] = frame("Frame16", Frame6, {16, 32, 145, 55}, kPanel);
-  t[Image10] = image("Image10", Frame16, 145, 55);
+  t[Image10] = wholeImage("Image10", Frame16, 145, 55);
   t[Frame17] = frame("Frame17", Frame6, {16, 96, 145, 81}, kPanel);
-  t[Image11] = image("Image11", Frame17, 145, 80);
+  t[Image11] = wholeImage("Image11", Frame17, 145, 80);
   t[Label8] = label("Label8", Frame17, {8, 4, 129, 22}, "VIEW MODE", FontSize::pt12, Align::centre);
   t[currentview] = knob("currentview", Frame17, {8, 29, 129, 22}, "Normal view");
   constexpr const char* kViews[] = {"N", "M", "S", "T", "C", "D"};
   for (int n = 0; n < 6; ++n) t[seer + n] = view(n, kViews[n]);
   t[Frame15] = frame("Frame15", Frame6, {16, 184, 145, 34}, kPanel);
-  t[Image5] = image("Image5", Frame15, 145, 34);
+  t[Image5] = wholeImage("Image5", Frame15, 145, 34);
   t[Statusreport] = knob("Statusreport", Frame15, {8, 5, 129, 23}, "STATUS");
   t[Frame2] = frame("Frame2", Frame6, {16, 224, 145, 34}, kPanel);
-  t[Image4] = image("Image4", Frame2, 145, 34);
+  t[Image4] = wholeImage("Image4", Frame2, 145, 34);
   t[Command5] = knob("Command5", Frame2, {8, 6, 129, 22}, "PREFERENCES");
   t[Frame1] = frame("Frame1", Frame6, {16, 264, 145, 258}, kPanel);
-  t[Image6] = image("Image6", Frame1, 145, 258);
+  t[Image6] = wholeImage("Image6", Frame1, 145, 258);
   t[Label4] =
       label("Label4", Frame1, {8, 32, 129, 25}, "BUILD MODE", FontSize::pt12, Align::centre);
   t[buildcurrent] = label("buildcurrent", Frame1, {16, 56, 113, 17}, "Current:Road    ",
@@ -190,15 +116,15 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Command1 + 7] = knob("Command1", Frame1, {8, 102, 57, 21}, "Road", 7);
   t[Command1 + 8] = knob("Command1", Frame1, {8, 134, 57, 21}, "Farm", 8);
   t[Frame9] = frame("Frame9", Frame6, {16, 528, 145, 34}, kPanel);
-  t[Image9] = image("Image9", Frame9, 145, 34);
+  t[Image9] = wholeImage("Image9", Frame9, 145, 34);
   t[gmmenu] = knob("gmmenu", Frame9, {8, 5, 129, 23}, "GAME MENU");
   t[Frame7] = frame("Frame7", Frame6, {16, 568, 145, 34}, kPanel);
-  t[Image7] = image("Image7", Frame7, 145, 34);
+  t[Image7] = wholeImage("Image7", Frame7, 145, 34);
   // The hover region of this row lies a little higher than its plate.
   t[Label3] = knob("Label3", Frame7, {8, 3, 129, 21}, "GOALS");
 
-  t[tileinfo] = frame("tileinfo", kNoParent, {kParked, 347, 141, 157}, kPanel, false);
-  t[Image2] = image("Image2", tileinfo, 141, 157);
+  t[tileinfo] = hidden(frame("tileinfo", kNoParent, {kParked, 347, 141, 157}, kPanel));
+  t[Image2] = wholeImage("Image2", tileinfo, 141, 157);
   t[buildsize] = info("buildsize", 4, "Effect area:");
   t[poplbl] = info("poplbl", 20, "Max. housing:");
   t[mailbl] = info("mailbl", 36, "Maintenance:");
@@ -209,7 +135,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[tavlbl] = info("tavlbl", 116, "Tavern access:");
   t[totlbl] = info("totlbl", 132, "Total:");
 
-  t[Frame13] = frame("Frame13", kNoParent, {kParked, 520, 441, 76}, kFloating, false);
+  t[Frame13] = hidden(frame("Frame13", kNoParent, {kParked, 520, 441, 76}, kFloating));
   t[Frame13].border = true;
   t[legendtitle] = label("legendtitle", Frame13, {8, 4, 425, 16}, "LEGEND:", FontSize::pt9);
   t[legendblue] =
@@ -221,12 +147,12 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[legendgrey] = label("legendgrey", Frame13, {8, 55, 425, 16}, "Grey:Non residential buildings",
                         FontSize::pt9);
 
-  t[Frame21] = frame("Frame21", kNoParent, {kParked, 560, 409, 25}, kFloating, false);
+  t[Frame21] = hidden(frame("Frame21", kNoParent, {kParked, 560, 409, 25}, kFloating));
   t[Frame21].border = true;
   t[Label18] = label("Label18", Frame21, {4, 2, 401, 21}, "", FontSize::pt11, Align::centre);
 
   t[Frame20] = frame("Frame20", kNoParent, {kParked, 0, 178, 37}, kPanel);
-  t[Image8] = image("Image8", Frame20, 178, 37);
+  t[Image8] = wholeImage("Image8", Frame20, 178, 37);
   t[Label16] =
       label("Label16", Frame20, {8, 4, 161, 17}, "CLICK HERE TO END", FontSize::pt9, Align::centre);
   t[Label17] = label("Label17", Frame20, {8, 16, 161, 17}, "THE DEMONSTRATION", FontSize::pt9,
@@ -350,7 +276,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[bilgilabel] = label("bilgilabel", Frame3, {4, 4, 241, 73}, "");
   t[Command21] = button("Command21", bilgi, {112, 104, 81, 25}, "OK");
 
-  t[mscompfrm] = frame("mscompfrm", kNoParent, {kParked, 200, 257, 121}, kFloating, false);
+  t[mscompfrm] = hidden(frame("mscompfrm", kNoParent, {kParked, 200, 257, 121}, kFloating));
   t[Command4] = button("Command4", mscompfrm, {0, 0, 257, 121}, "", FontSize::pt14);
 
   t[haber] =
@@ -363,13 +289,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
 constexpr std::array<ControlDesign, kCount> kTable = makeTable();
 
-constexpr bool everyRowFilled() {
-  for (const ControlDesign& row : kTable) {
-    if (row.name == nullptr) return false;
-  }
-  return true;
-}
-static_assert(everyRowFilled());
+static_assert(complete(kTable));
 
 }  // namespace
 

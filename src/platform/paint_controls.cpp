@@ -63,7 +63,8 @@ void paintLabel(const Brush& brush, const Control& control, const Rect& place) {
   if (control.border) brush.outline(place, mix(design.opaque ? control.back : kFace, kInk, 60));
   std::string_view text = control.text;
   if (text.empty()) return;
-  const Rect inside = control.border ? inset(place, 2) : place;
+  // A border that comes and goes moves no text.
+  const Rect inside = design.border ? inset(place, 2) : place;
   const int step = lineHeight(design.font);
   const std::string_view whole = text;
   std::string_view line = takeLine(text, inside.width, brush.font(), design.font);

@@ -1,5 +1,6 @@
 #include "shell/menu_controls.h"
 
+#include "core/control_rows.h"
 #include "scenario/missions.h"
 #include "scenario/puzzles.h"
 
@@ -8,102 +9,34 @@ namespace shell {
 namespace {
 
 using namespace menu_control;
-using platform::Align;
-using platform::Color;
-using platform::ControlDesign;
-using platform::ControlKind;
-using platform::FontSize;
-using platform::Heading;
-using platform::kNoParent;
-using platform::kSingle;
-using platform::Rect;
-
-constexpr Color kPanel{140, 179, 242};
-constexpr Color kPlate{203, 221, 241};
-
-// Where panels wait until they are shown.
-constexpr int kParked = 1000;
+using namespace core::rows;
 
 constexpr ControlDesign panel(const char* name, int width, int height) {
-  return {.name = name,
-          .kind = ControlKind::frame,
-          .place = {kParked, 100, width, height},
-          .back = kPanel,
-          .opaque = true,
-          .border = true,
-          .visible = false};
-}
-constexpr ControlDesign frame(const char* name, int parent, Rect place, Color back = kPlate) {
-  return {.name = name,
-          .kind = ControlKind::frame,
-          .parent = parent,
-          .place = place,
-          .back = back,
-          .opaque = true};
+  return hidden(bordered(frame(name, kNoParent, {kParked, 100, width, height}, kPanel)));
 }
 constexpr ControlDesign group(const char* name, int parent, Rect place, const char* caption) {
-  return {.name = name,
-          .kind = ControlKind::frame,
-          .parent = parent,
-          .place = place,
-          .text = caption,
-          .font = FontSize::pt11,
-          .back = kPlate,
-          .opaque = true,
-          .border = true,
-          .heading = Heading::group};
+  ControlDesign design = bordered(frame(name, parent, place, kPlate));
+  design.text = caption;
+  design.heading = Heading::group;
+  return design;
 }
 // The plain box that lies in a panel, around what it holds.
 constexpr ControlDesign plate(const char* name, int parent, int width, int height) {
-  return {.name = name,
-          .kind = ControlKind::box,
-          .parent = parent,
-          .place = {4, 4, width - 8, height - 8},
-          .back = kPlate,
-          .opaque = true,
-          .border = true};
-}
-constexpr ControlDesign label(const char* name, int parent, Rect place, const char* text,
-                              FontSize font = FontSize::pt11, Align align = Align::left,
-                              int index = kSingle) {
-  return {.name = name,
-          .index = index,
-          .kind = ControlKind::label,
-          .parent = parent,
-          .place = place,
-          .text = text,
-          .font = font,
-          .align = align};
-}
-constexpr ControlDesign button(const char* name, int parent, Rect place, const char* text) {
-  return {.name = name,
-          .kind = ControlKind::button,
-          .parent = parent,
-          .place = place,
-          .text = text,
-          .align = Align::centre,
-          .back = kPlate,
-          .opaque = true};
-}
-constexpr ControlDesign picture(const char* name, int parent, Rect place) {
-  return {
-      .name = name, .kind = ControlKind::image, .parent = parent, .place = place, .image = name};
+  return box(name, parent, {4, 4, width - 8, height - 8}, kPlate);
 }
 constexpr ControlDesign checkBox(const char* name, int parent, Rect place, const char* text) {
-  return {.name = name,
-          .kind = ControlKind::checkBox,
-          .parent = parent,
-          .place = place,
-          .text = text,
-          .back = kPlate};
+  ControlDesign design = row(name, ControlKind::checkBox, parent, place);
+  design.text = text;
+  design.back = kPlate;
+  return design;
 }
 
 constexpr std::array<ControlDesign, kCount> makeTable() {
   std::array<ControlDesign, kCount> t{};
   // A row of the two panels of buttons: a picture plate, and the label on it.
-  const auto row = [&t](int plateId, const char* plateName, int labelId, const char* labelName,
-                        int parent, int left, int top, const char* text) {
-    t[static_cast<std::size_t>(plateId)] = picture(plateName, parent, {left, top, 155, 33});
+  const auto plateRow = [&t](int plateId, const char* plateName, int labelId, const char* labelName,
+                             int parent, int left, int top, const char* text) {
+    t[static_cast<std::size_t>(plateId)] = image(plateName, parent, {left, top, 155, 33});
     ControlDesign d =
         label(labelName, parent, {left + 8, top + 5, 145, 25}, text, FontSize::pt11, Align::centre);
     d.back = kPlate;
@@ -119,20 +52,20 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
       label("Label39", Frame22, {8, 12, 201, 26}, "VELLMORAN", FontSize::pt14, Align::centre, 0);
   t[Label39 + 1] =
       label("Label39", Frame22, {8, 40, 201, 18}, "Royal Edition", FontSize::pt9, Align::centre, 1);
-  row(Picture1, "Picture1", mainnew, "mainnew", main, 40, 96, "NEW GAME");
-  row(Picture2, "Picture2", mainload, "mainload", main, 40, 136, "LOAD GAME");
-  row(Picture5, "Picture5", mainhelp, "mainhelp", main, 40, 176, "DEMO GAME");
-  row(ivir, "ivir", maincredits, "maincredits", main, 40, 216, "CREDITS");
-  row(Picture3, "Picture3", mainquit, "mainquit", main, 40, 256, "EXIT GAME");
+  plateRow(Picture1, "Picture1", mainnew, "mainnew", main, 40, 96, "NEW GAME");
+  plateRow(Picture2, "Picture2", mainload, "mainload", main, 40, 136, "LOAD GAME");
+  plateRow(Picture5, "Picture5", mainhelp, "mainhelp", main, 40, 176, "DEMO GAME");
+  plateRow(ivir, "ivir", maincredits, "maincredits", main, 40, 216, "CREDITS");
+  plateRow(Picture3, "Picture3", mainquit, "mainquit", main, 40, 256, "EXIT GAME");
 
   t[startnew] = panel("startnew", 233, 337);
   t[startplate] = plate("startplate", startnew, 233, 337);
-  t[Frame7] = frame("Frame7", startnew, {24, 24, 185, 289});
-  row(Picture6, "Picture6", stcampaign, "stcampaign", Frame7, 16, 8, "CAMPAIGN");
-  row(Picture9, "Picture9", stpuzzle, "stpuzzle", Frame7, 16, 48, "PUZZLE PLAY");
-  row(Picture7, "Picture7", stopen, "stopen", Frame7, 16, 88, "OPEN PLAY");
+  t[Frame7] = frame("Frame7", startnew, {24, 24, 185, 289}, kPlate);
+  plateRow(Picture6, "Picture6", stcampaign, "stcampaign", Frame7, 16, 8, "CAMPAIGN");
+  plateRow(Picture9, "Picture9", stpuzzle, "stpuzzle", Frame7, 16, 48, "PUZZLE PLAY");
+  plateRow(Picture7, "Picture7", stopen, "stopen", Frame7, 16, 88, "OPEN PLAY");
   t[Label4] = label("Label4", Frame7, {24, 136, 137, 97}, "", FontSize::pt9);
-  row(Picture8, "Picture8", stback, "stback", Frame7, 16, 248, "BACK TO MAIN");
+  plateRow(Picture8, "Picture8", stback, "stback", Frame7, 16, 248, "BACK TO MAIN");
 
   t[campaign] = panel("campaign", 585, 441);
   t[campaignplate] = plate("campaignplate", campaign, 585, 441);
@@ -147,7 +80,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                  .back = kPanel,
                  .opaque = true,
                  .border = true};
-  t[Frame9] = frame("Frame9", campaign, {32, 64, 305, 329});
+  t[Frame9] = frame("Frame9", campaign, {32, 64, 305, 329}, kPlate);
   for (int k = 0; k < 10; ++k) {
     t[static_cast<std::size_t>(Label6 + k)] =
         label("Label6", Frame9, {32, 8 + 32 * k, 257, 25}, "", FontSize::pt11, Align::left, k);
@@ -177,7 +110,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Label21] = label("Label21", Frame16, {20, 36, 425, 38},
                      " It is strongly recommended that you complete the campaign before starting "
                      "puzzle missions");
-  t[Frame17] = frame("Frame17", Frame16, {24, 80, 425, 241});
+  t[Frame17] = frame("Frame17", Frame16, {24, 80, 425, 241}, kPlate);
   t[Frame17].border = true;
   t[Label22] = label("Label22", Frame17, {8, 16, 409, 20},
                      "(The missions are ranked according to their difficulty)", FontSize::pt9,
@@ -195,9 +128,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                                                   .parent = Frame17,
                                                   .place = {left + 24, top + 8, 12, 10}};
   }
-  t[Picture20] = picture("Picture20", Frame17, {8, 216, 12, 10});
+  t[Picture20] = image("Picture20", Frame17, {8, 216, 12, 10});
   t[Picture20].visible = false;
-  t[Picture21] = picture("Picture21", Frame17, {24, 216, 7, 7});
+  t[Picture21] = image("Picture21", Frame17, {24, 216, 7, 7});
   t[Picture21].visible = false;
   t[Command23] = button("Command23", Frame16, {200, 344, 89, 33}, "Cancel");
 
@@ -215,14 +148,14 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Check7] = checkBox("Check7", Frame12, {16, 24, 72, 20}, "Low");
   t[Check8] = checkBox("Check8", Frame12, {96, 24, 84, 20}, "Normal");
   t[Check9] = checkBox("Check9", Frame12, {184, 24, 68, 20}, "High");
-  t[Frame2] = frame("Frame2", openplay, {24, 216, 273, 81});
+  t[Frame2] = frame("Frame2", openplay, {24, 216, 273, 81}, kPlate);
   t[openplaydiff] = label("openplaydiff", Frame2, {56, 8, 209, 24}, "Overall difficulty:100%");
   t[openback] = button("openback", Frame2, {16, 48, 113, 33}, "Cancel ");
   t[opengo] = button("opengo", Frame2, {144, 48, 113, 33}, "Play ");
 
   t[Frame10] = panel("Frame10", 393, 369);
   t[creditsplate] = plate("creditsplate", Frame10, 393, 369);
-  t[Frame11] = frame("Frame11", Frame10, {24, 24, 345, 321});
+  t[Frame11] = frame("Frame11", Frame10, {24, 24, 345, 321}, kPlate);
   t[creditstitle] = label("creditstitle", Frame11, {16, 0, 305, 25}, "VELLMORAN CREDITS",
                           FontSize::pt14, Align::centre);
   t[designby] = label("designby", Frame11, {64, 32, 225, 25},
@@ -266,13 +199,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
 constexpr std::array<ControlDesign, kCount> kTable = makeTable();
 
-constexpr bool everyRowFilled() {
-  for (const ControlDesign& row : kTable) {
-    if (row.name == nullptr) return false;
-  }
-  return true;
-}
-static_assert(everyRowFilled());
+static_assert(complete(kTable));
 
 }  // namespace
 

@@ -165,7 +165,9 @@ void rebuildLoadedCity(GameScreen& screen) {
   scene.timers.setEnabled(timer::Timer7, game.walkersOn == 1);
   scene.timers.disable(timer::Timer6);
   map::readmap(game, scene.values, screen.random());
+  // A load is always seen in the normal view, which has no legend.
   game.overlayView = 0;
+  scene.form.hide(ui::Frame13);
   drawFirstCoat(screen);
   map::shapeAllRoads(game);
   map::applyOverlayView(scene.stage);
