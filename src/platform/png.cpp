@@ -12,9 +12,16 @@ namespace {
 
 constexpr png_uint_32 kLargestSide = 4096;
 
-/// Reads a file as rows of red, green, blue, alpha bytes without padding.
-bool readRgba(const std::string& path, std::vector<std::uint8_t>& into, Size& size,
-              std::string& error) {
+/// Where decoded pixels go; a stride of 0 means rows without padding.
+struct Rows {
+  std::uint8_t* first;
+  int stride;
+};
+
+/// Decodes a file. `buffer` is given the head of the picture; it sets the format wanted and answers
+/// with the memory for the pixels.
+template <typename Buffer>
+bool decode(const std::string& path, std::string& error, Buffer buffer) {
   std::FILE* file = std::fopen(path.c_str(), "rb");
   if (file == nullptr) {
     error = path + ": " + std::strerror(errno);
@@ -28,15 +35,24 @@ bool readRgba(const std::string& path, std::vector<std::uint8_t>& into, Size& si
     good = false;
   }
   if (good) {
-    image.format = PNG_FORMAT_RGBA;
-    into.resize(PNG_IMAGE_SIZE(image));
-    good = png_image_finish_read(&image, nullptr, into.data(), 0, nullptr) != 0;
+    const Rows rows = buffer(image);
+    good = png_image_finish_read(&image, nullptr, rows.first, rows.stride, nullptr) != 0;
   }
-  size = {static_cast<int>(image.width), static_cast<int>(image.height)};
   if (!good) error = path + ": not a usable PNG picture: " + image.message;
   png_image_free(&image);
   std::fclose(file);
   return good;
+}
+
+/// Reads a file as rows of red, green, blue, alpha bytes without padding.
+bool readRgba(const std::string& path, std::vector<std::uint8_t>& into, Size& size,
+              std::string& error) {
+  return decode(path, error, [&](png_image& image) {
+    image.format = PNG_FORMAT_RGBA;
+    into.resize(PNG_IMAGE_SIZE(image));
+    size = {static_cast<int>(image.width), static_cast<int>(image.height)};
+    return Rows{into.data(), 0};
+  });
 }
 
 /// Calls put(x, y, the four bytes of the pixel) for every pixel.
@@ -51,12 +67,25 @@ void eachPixel(const std::vector<std::uint8_t>& rgba, Size size, Put put) {
 }  // namespace
 
 bool readPng(const std::string& path, Surface& into, std::string& error) {
+  // A picture without alpha goes straight into the surface. One with alpha would be blended with a
+  // background on that way, where its colours are wanted as they are.
   std::vector<std::uint8_t> rgba;
-  Size size;
-  if (!readRgba(path, rgba, size, error)) return false;
-  Surface read(size.width, size.height);
-  eachPixel(rgba, size,
-            [&](int x, int y, const std::uint8_t* p) { std::memcpy(read.row(y) + x * 3, p, 3); });
+  Surface read;
+  const bool good = decode(path, error, [&](png_image& image) {
+    read = Surface(static_cast<int>(image.width), static_cast<int>(image.height));
+    if ((image.format & PNG_FORMAT_FLAG_ALPHA) == 0) {
+      image.format = PNG_FORMAT_RGB;
+      return Rows{read.row(0), static_cast<int>(read.stride())};
+    }
+    image.format = PNG_FORMAT_RGBA;
+    rgba.resize(PNG_IMAGE_SIZE(image));
+    return Rows{rgba.data(), 0};
+  });
+  if (!good) return false;
+  if (!rgba.empty()) {
+    eachPixel(rgba, {read.width(), read.height()},
+              [&](int x, int y, const std::uint8_t* p) { std::memcpy(read.row(y) + x * 3, p, 3); });
+  }
   into = std::move(read);
   return true;
 }
