@@ -37,6 +37,12 @@ bool isLane(const core::GameState& game, int px, int py) {
   return image == core::kRoadAlongX || image == core::kRoadAlongY;
 }
 
+// Along the edges of two cells either picture may have the pixel.
+bool isWellInLane(const core::GameState& game, int px, int py) {
+  return isLane(game, px - 2, py) && isLane(game, px + 2, py) && isLane(game, px, py - 1) &&
+         isLane(game, px, py + 1);
+}
+
 bool isUnderTallPicture(const core::GameState& game, int px, int py) {
   for (int y = 0; y <= core::kLastCell; ++y) {
     for (int x = 0; x <= core::kLastCell; ++x) {
@@ -136,7 +142,7 @@ void Watch::watchSurface() {
     // and not every tall picture that it touches is painted again before the next redraw.
     const auto pixel = static_cast<std::size_t>(y * surface.width() + x);
     if (!walked_.empty() && walked_[pixel] &&
-        (!isLane(*game(), x, y) || isUnderTallPicture(*game(), x, y))) {
+        (!isWellInLane(*game(), x, y) || isUnderTallPicture(*game(), x, y))) {
       return true;
     }
     return std::any_of(except.begin(), except.end(), [&](const Rect& rect) {
@@ -147,7 +153,10 @@ void Watch::watchSurface() {
     std::string error;
     platform::writePng("../is.png", surface, error);
     platform::writePng("../should.png", redrawn_->surface(), error);
-    wrong("the surface is not what the cells say at pixel " + text(at));
+    wrong("the surface is not what the cells say at pixel " + text(at) +
+          (walked_.empty() || !walked_[static_cast<std::size_t>(at.y * surface.width() + at.x)]
+               ? ""
+               : ", where a walker has been"));
   }
 }
 
