@@ -65,37 +65,15 @@ TEST(Play, TenMinutesOfPressesTicksScrollsAndWalkersAllocateNothing) {
 
   // Every twenty steps of 200 ms: the panels and modes, and the map in between. Left out are the doors
   // to music, to files and to the menu.
-  platform::Form& form = session.program().screen()->form();
-  const auto buttonOf = [](int step, int random) -> int {
-    switch (step % 20) {
-      case 0:
-        return ui::Statusreport;
-      case 1:
-        return random % 2 != 0 ? ui::taxrateplus : ui::taxrateminus;
-      case 2:
-        return ui::statusclose;
-      case 3:
-        return ui::Label3;
-      case 4:
-        return ui::Command21;
-      case 5:
-        return ui::seer + random % 6;
-      case 7:
-        return ui::seer;
-      case 8:
-        return ui::inform;
-      case 10:
-        return ui::building;
-      case 12:
-      case 15:
-        return ui::Command1 + random % 9;
-      case 18:
-        return ui::Command1;
-      default:
-        return -1;
-    }
+  struct Button {
+    int step, first, choices;
   };
-
+  constexpr Button kButtons[] = {
+      {0, ui::Statusreport, 1}, {1, ui::taxrateminus, 3}, {2, ui::statusclose, 1},
+      {3, ui::Label3, 1},       {4, ui::Command21, 1},    {5, ui::seer, 6},
+      {7, ui::seer, 1},         {8, ui::inform, 1},       {10, ui::building, 1},
+      {12, ui::Command1, 9},    {15, ui::Command1, 9},    {18, ui::Command1, 1}};
+  platform::Form& form = session.program().screen()->form();
   std::minstd_rand chance(7);
   const auto below = [&chance](int n) {
     return static_cast<int>(chance() % static_cast<unsigned>(n));
@@ -107,7 +85,10 @@ TEST(Play, TenMinutesOfPressesTicksScrollsAndWalkersAllocateNothing) {
   for (int step = 0; step < 3000; ++step) {
     game.gold = 1000;
     if (step % 100 == 0) game.food = below(2) * 1000;
-    const int button = buttonOf(step, below(90));
+    int button = -1;
+    for (const Button& due : kButtons) {
+      if (due.step == step % 20) button = due.first + below(due.choices);
+    }
     if (button >= 0) {
       const platform::Rect place = form.onScreen(button);
       session.pointer(place.left + place.width / 2, place.top + place.height / 2);

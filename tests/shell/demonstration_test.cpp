@@ -68,16 +68,4 @@ TEST(Demonstration, BuildsItsCitySilentlyAndGoesBackToTheMenu) {
   EXPECT_EQ(play("sounds"), R"(ok ["close canyon"])");
 }
 
-TEST(Demonstration, GoesOnWithoutMoneyAndEndsAtAPress) {
-  Play play;
-  play.run("click mainhelp\nadvance 500\nset gold -90\nadvance 3000\nsounds");
-  core::GameState* game = play.session().program().screen()->game();
-  EXPECT_EQ(game->tileCode(18, 12), 7);
-  EXPECT_LT(game->gold, -100);
-  EXPECT_EQ(game->tileCode(18, 13), 0);
-  play.run("click Label17");
-  EXPECT_EQ(play("screen"), "ok firstmenu");
-  EXPECT_EQ(play("sounds"), R"(ok ["close canyon"])");
-}
-
 }  // namespace

@@ -57,22 +57,6 @@ TEST(Music, RepeatsOneThemeByItsOwnLength) {
   }
 }
 
-TEST(Music, StopsAtOnceAndComesBackWithTheNextSecond) {
-  Play play;
-  openGame(play);
-  play.run("choose Combo1 Track 4\nadvance 5000\nsounds\nchoose Combo1 Off");
-  EXPECT_EQ(play("sounds"), R"(ok ["close canyon"])");
-  EXPECT_EQ(play("get musicTrack"), "ok 4");
-  EXPECT_EQ(listen(play, 200), Heard{});
-  play.run("choose Combo1 Track 2");
-  EXPECT_EQ(listen(play, 100), (Heard{{1, 2}}));
-  // The entry that is shown already starts over; without sound effects the music goes on.
-  play.run("click scrollspeedminus\nchoose Combo1 Track 2");
-  EXPECT_EQ(listen(play, 126), (Heard{{1, 2}}));
-  play.run("choose Combo1 Auto play");
-  EXPECT_EQ(listen(play, 83), (Heard{{1, 1}, {83, 2}}));
-}
-
 TEST(Music, LetsThePlayerLeaveWhileAThemeIsBeingOpened) {
   Play play;
   openGame(play);

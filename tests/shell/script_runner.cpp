@@ -102,15 +102,26 @@ void playFile(const std::string& path) {
   }
   if (wrote) play.restart();
 
+  std::string answer;
+  std::string where;
   for (std::size_t n = 0; n < lines.size(); ++n) {
-    if (!driver::isCommand(lines[n])) continue;
-    const std::string answer = play(lines[n]);
-    const bool expects = n + 1 < lines.size() && lines[n + 1].starts_with("#= ");
-    const std::string where = path + ":" + std::to_string(n + 1) + ": " + lines[n];
-    if (expects) {
-      EXPECT_EQ(answer, lines[n + 1].substr(3)) << where;
-    } else {
-      EXPECT_TRUE(answer.starts_with("ok")) << where << "\n  " << answer;
+    const std::string& line = lines[n];
+    const std::string rest = line.substr(std::min<std::size_t>(line.find(' ') + 1, line.size()));
+    if (driver::isCommand(line)) {
+      answer = play(line);
+      where = path + ":" + std::to_string(n + 1) + ": " + line;
+      const bool expects = n + 1 < lines.size() && lines[n + 1].starts_with("#= ");
+      EXPECT_TRUE(expects || answer.starts_with("ok")) << where << "\n  " << answer;
+    } else if (line.starts_with("#= ")) {
+      EXPECT_EQ(answer, rest) << where;
+    } else if (line.starts_with("#~ ")) {
+      EXPECT_TRUE(answer.find(rest) != std::string::npos)
+          << where << "\n  " << answer << " lacks " << rest;
+    } else if (line.starts_with("#file ")) {
+      const std::size_t end = rest.find(' ');
+      const std::string text = play.file(rest.substr(0, end));
+      EXPECT_TRUE(text.starts_with(rest.substr(end + 1)))
+          << where << "\n  " << line << ": " << text;
     }
   }
 }

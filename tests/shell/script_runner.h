@@ -1,6 +1,8 @@
-// Plays driver scripts as tests. A script is what the driver itself takes, with two kinds of remarks:
+// Plays driver scripts as tests. A script is what the driver itself takes, with these remarks:
 //
 //   #= ok 600           the answer that the command above must give, whole
+//   #~ "shown":true     a part that its answer must have; several may follow one another
+//   #file NAME TEXT     a file in the program's folder must begin so after the command above
 //   #write NAME TEXT    puts a file into the program's folder before the script starts
 //
 // and one short form: @x,y stands for the screen pixel in the middle of cell (x, y), wherever the map
