@@ -3,7 +3,6 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 
 #include "core/new_game.h"
 #include "core/vocabulary.h"
@@ -20,20 +19,16 @@ inline bool inDiamond(int px, int py) {
 }
 
 inline Color colorOf(int picture) {
+  if (picture == 20) return platform::kBlack;
   return {static_cast<std::uint8_t>(40 + 3 * picture), static_cast<std::uint8_t>(250 - picture),
           static_cast<std::uint8_t>(picture % 7 * 30)};
-}
-
-/// Road stripes that are the same after each step of a walker.
-inline Color stripe(int along) {
-  return {200, 100, static_cast<std::uint8_t>(((along % 32) + 32) % 32 * 8)};
 }
 
 inline bool same(const Surface& a, const Surface& b) {
   return std::memcmp(a.row(0), b.row(0), a.stride() * static_cast<std::size_t>(a.height())) == 0;
 }
 
-/// Calls use(x, y) for every pixel of a box.
+/// Calls use(x, y) for every pixel of a box, or every cell of a square.
 template <class Use>
 void eachPixel(int width, int height, Use use) {
   for (int y = 0; y < height; ++y) {
@@ -41,19 +36,7 @@ void eachPixel(int width, int height, Use use) {
   }
 }
 
-/// The smallest box around all pixels that are not black.
-inline platform::Rect drawnBox(const Surface& surface) {
-  platform::Rect box{};
-  eachPixel(surface.width(), surface.height(), [&](int x, int y) {
-    if (surface.pixel(x, y) != platform::kBlack) box = platform::boundingBox(box, {x, y, 1, 1});
-  });
-  return box;
-}
-
 class MadeUpCity {
-  std::pair<std::unique_ptr<core::GameState>, std::unique_ptr<core::ProgramValues>> owned_{
-      std::make_unique<core::GameState>(), std::make_unique<core::ProgramValues>()};
-
  public:
   MadeUpCity() {
     core::resetGame(game, values);
@@ -62,12 +45,10 @@ class MadeUpCity {
     game.drawOffsetY = 16;
     values.gMission = core::Number(15);
     for (const PictureFile& file : pictureFiles()) paint(file);
-    pictures.picTile[21] = Surface(12, 17);
-    pictures.picMask[21] = Surface(12, 17);
   }
 
-  core::GameState& game = *owned_.first;
-  core::ProgramValues& values = *owned_.second;
+  core::GameState game;
+  core::ProgramValues values;
   PictureSet pictures;
   platform::Canvas canvas{1984, 1056};
   Stage stage{game, values, pictures, canvas};
@@ -96,8 +77,7 @@ class MadeUpCity {
   }
 
  private:
-  // A tall picture fills its whole upper half: the farthest that one can reach. Walkers are blocks of
-  // road with a figure that leaves out what the next step uncovers.
+  // A tall picture fills its whole upper half: the farthest that one can reach.
   void paint(const PictureFile& file) {
     const auto n = static_cast<std::size_t>(file.number);
     const auto [width, height] = file.size;
@@ -106,17 +86,10 @@ class MadeUpCity {
     black.clear(colorOf(file.number));
     white.clear(colorOf(file.number));
     const int top = height == 64 ? 32 : 0;
-    const bool alongY = n == 56 || (n >= 22 && n <= 24) || n == 38 || n == 39;
     eachPixel(width, height > 64 ? 0 : height, [&](int x, int y) {
-      Color color = n == 20 ? platform::kBlack : colorOf(file.number);
-      if (n == 1) color = stripe(x + 2 * y);
-      if (n == 2) color = stripe(x - 2 * y);
-      if (width == 12 && (n > 55 || x < 2 || x > 9 || y < 1 || y > 15)) {
-        color = alongY ? stripe(20 + x + 2 * (6 + y)) : stripe(24 + x - 2 * (2 + y));
-      }
-      const bool outside = width > 12 && y >= top && !inDiamond(x, y - top);
-      white.setPixel(x, y, outside ? platform::kWhite : color);
-      black.setPixel(x, y, outside ? platform::kBlack : color);
+      if (y < top || inDiamond(x, y - top)) return;
+      white.setPixel(x, y, platform::kWhite);
+      black.setPixel(x, y, platform::kBlack);
     });
     using enum PictureFile::Kind;
     if (file.kind != tile) pictures.picMask[n] = std::move(black);

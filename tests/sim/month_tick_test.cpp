@@ -51,34 +51,6 @@ TEST(Food, IsHarvestedEatenAndFlooredInThisOrder) {
   EXPECT_EQ(kingsAid(city.game, city.values), nullptr);
 }
 
-TEST(Famine, RebuildsOnceWhenItComesAndOnceWhenItGoes) {
-  City city;
-  const auto step = [&](double food) {
-    city.game.food = food;
-    const FamineStep asked = stepFamine(city.game);
-    return asked.banner * 100 + asked.rebuild * 10 + city.game.famineState.whole();
-  };
-  EXPECT_EQ(step(0), 12);  // a new game: rebuilt without a word
-  EXPECT_EQ(step(0), 2);
-  EXPECT_EQ(step(1), 10);
-  EXPECT_EQ(step(1), 0);
-  EXPECT_EQ(step(0), 112);
-  EXPECT_EQ(step(0), 2);
-  city.game.famineState = 1;
-  EXPECT_EQ(step(5), 10);
-}
-
-TEST(Milestones, ComeOnceEachAtTheirNumber) {
-  City city;
-  city.game.population = 99;
-  EXPECT_FALSE(reachMilestone(city.game, 0));
-  city.game.population = 250;
-  EXPECT_TRUE(reachMilestone(city.game, 0) && reachMilestone(city.game, 1));
-  EXPECT_FALSE(reachMilestone(city.game, 0) || reachMilestone(city.game, 2));
-  EXPECT_EQ(city.game.churchUnlocked + city.game.schoolUnlocked, 2);
-  EXPECT_EQ(city.game.toolUnlocked[1] + city.game.toolUnlocked[2], 2);
-}
-
 TEST(Month, MovesItsSumOfGoldAndShowsThreeStagesOfTheFarms) {
   City city;
   city.block(core::kTavernCode, 3, 3);
