@@ -234,9 +234,11 @@ void Hands::planStreet(driver::Session& session) {
   const auto take = [this](int index) { add("click Command1 " + to_string(index)); };
   add("click building");
   for (int n = 0; n < length; ++n) press(n, 0);
+  // With all five services its residences grow to the top.
+  int services = chance_.percent(50) ? 5 : 0;
   for (int n = 0; n + 1 < length; n += 2) {
     for (const int across : {1, -2}) {
-      take(chance_.percent(70) ? 0 : chance_.between(1, 5));
+      take(services > 0 ? services-- : chance_.percent(85) ? 0 : chance_.between(1, 5));
       press(n, across);
     }
   }
