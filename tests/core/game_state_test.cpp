@@ -9,21 +9,6 @@
 namespace core {
 namespace {
 
-TEST(Number, KeepsUnsetApartFromZero) {
-  Number number;
-  EXPECT_FALSE(number.isSet());
-  EXPECT_EQ(number, 0);
-  number += 0.5;
-  EXPECT_TRUE(number.isSet());
-  EXPECT_EQ(number, 0.5);
-  number = std::numeric_limits<double>::quiet_NaN();
-  EXPECT_TRUE(number.isSet());
-  number.unset();
-  EXPECT_FALSE(number.isSet() || Flag().isSet());
-  number = 0;
-  EXPECT_TRUE(number.isSet() && Flag(0).isSet());
-}
-
 TEST(NumberText, IsTheShortestFormOfFifteenDigits) {
   const double infinity = std::numeric_limits<double>::infinity();
   for (const auto& [value, text] : {std::pair{1500.0, "1500"},

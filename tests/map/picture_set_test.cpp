@@ -36,27 +36,6 @@ TEST_F(Pictures, ThatAreMissingOrOfAnotherSizeAreNamed) {
   EXPECT_NE(error.find("32 x 64"), std::string::npos) << error;
 }
 
-TEST_F(Pictures, OfBuildingsCoverTheirFootprint) {
-  for (const core::BlockDesign* block :
-       {&core::kTent, &core::kHouse, &core::kApartment, &core::kMarketBlock, &core::kSchoolBlock,
-        &core::kTavernBlock, &core::kChurchBlock}) {
-    int open = 0;
-    for (const auto& [cellX, cellY] : core::kBlock) {
-      eachPixel(64, 32, [&](int x, int y) {
-        bool covered = !inDiamond(x, y);
-        for (std::size_t i = 0; i < 4; ++i) {
-          const int dx = cellX - core::kBlock[i].x;
-          const int dy = cellY - core::kBlock[i].y;
-          covered |= isOpaque(block->images[i], x + 32 * (dx - dy),
-                              y + 16 * (dx + dy) + 32 * block->tall[i]);
-        }
-        open += !covered;
-      });
-    }
-    EXPECT_EQ(open, 0) << "building of picture " << block->images[0];
-  }
-}
-
 // Walkers are painted over these corners where no rule repaints what stands in front of them; a
 // corner over the building's own anchor needs no care, as the anchor is asked for.
 TEST_F(Pictures, OfTallCellsLeaveTheirUpperCornersFree) {

@@ -57,21 +57,6 @@ TEST(Renderer, FlatCellsNeedAMarkAndTallCellsNone) {
   EXPECT_EQ(city.game.reserved[1] + city.game.reserved[2], 7);
 }
 
-TEST(Renderer, TheVoidBlackensAndTheFirstCoatDrawsAllAtTheirTallPlaces) {
-  MadeUpCity city;
-  city.canvas.surface().clear(colorOf(62));
-  city.put(10, 10, 0, 20, 0);
-  city.game.cellDirty(10, 10) = 1;
-  DrawTiles32(city.stage, kFlatCells);
-  EXPECT_EQ(city.canvas.surface().pixel(960 + 32, 352 + 16), platform::kBlack);
-  EXPECT_EQ(city.canvas.surface().pixel(960, 352), colorOf(62)) << "outside the diamond";
-  city.put(12, 10, 12, 5, 0);
-  city.game.blitCount = 0;
-  DrawTiles(city.stage, kTallCells);
-  EXPECT_EQ(city.canvas.surface().pixel(1024 + 32, 352 + 16), colorOf(5));
-  EXPECT_EQ(city.game.blitCount, 2 * 31 * 31);
-}
-
 TEST(Renderer, BackdropsAreOredOnceAndForAll) {
   for (const auto& [mission, box, counted] :
        {std::tuple{3, Rect{73, 29, 1800, 500}, 1}, std::tuple{6, Rect{89, 19, 1894, 510}, 0},
