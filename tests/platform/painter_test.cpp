@@ -1,95 +1,64 @@
 #include "platform/painter.h"
 
-#include <cstring>
-#include <random>
-
+#include "pixels.h"
 #include "toolkit_fixture.h"
 
 namespace platform {
 namespace {
 
-bool samePixels(const Surface& a, const Surface& b) {
-  for (int y = 0; y < a.height(); ++y) {
-    if (std::memcmp(a.row(y), b.row(y), static_cast<std::size_t>(a.width()) * 3) != 0) return false;
-  }
-  return true;
-}
-
 class Painting : public Toolkit {
  protected:
-  Painting() { painter_.paint(screen_, desk_, now_); }
+  Painting() { paint(); }
 
-  int roll(int from, int to) { return std::uniform_int_distribution<int>(from, to)(dice_); }
+  std::vector<Rect> paint() {
+    const auto rects = painter_.paint(screen_, desk_, now_).rects();
+    return {rects.begin(), rects.end()};
+  }
+  int rolled(int from, int to) { return roll(dice_, from, to); }
+  Point anywhere() { return {rolled(-50, 850), rolled(-50, 650)}; }
   Color anyColor() {
     const Color colors[] = {kBlack, kYellow, kRed, kGreen, {203, 221, 241}, {225, 238, 253}};
-    return colors[roll(0, 5)];
+    return colors[rolled(0, 5)];
   }
 
   // One change of the kind that the game or a player makes.
   void change() {
-    const int id = roll(0, form_.count() - 1);
+    const int id = rolled(0, form_.count() - 1);
+    const int panel = rolled(0, 1) != 0 ? kPanel : kSave;
     Control& control = form_[id];
-    switch (roll(0, 19)) {
-      case 0:
-        form_.setVisible(id == kHidden ? kPanel : id, roll(0, 2) > 0);
-        break;
-      case 1:
-        control.fore = anyColor();
-        break;
-      case 2:
-        control.back = anyColor();
-        break;
-      case 3:
-        control.text.assign(std::string(static_cast<std::size_t>(roll(0, 9)), 'a'));
-        break;
-      case 4:
-        form_.moveTo(kMap, -64 * roll(0, 4), -32 * roll(0, 4));
-        break;
-      case 5:
-        form_.moveTo(roll(0, 1) ? kPanel : kSave, roll(-50, 600), roll(-50, 400));
-        break;
-      case 6:
-        form_[kLine0].from = {roll(100, 800), roll(50, 600)};
-        break;
-      case 7:
-        form_[kLine1].to = {roll(100, 800), roll(50, 600)};
-        break;
-      case 8:
-        canvas_.surface().fill({500, 100, 30, 200}, anyColor());
-        canvas_.pair(roll(0, 990), roll(0, 690), 60, 20, plate_, plate_);
-        canvas_.bitBlt(500, 100, 30, 200, canvasPicture_, SRCPAINT);
-        canvas_.refresh();
-        break;
-      case 9:
-        if (roll(0, 1)) control.border = !control.border;
-        form_[kCheck].checked = roll(0, 1) != 0;
-        break;
-      case 10:
-        form_[kFiles].list->items.resize(static_cast<std::size_t>(roll(0, 20)), "new");
-        break;
-      case 11:
-        desk_.wheel(roll(-2, 2));
-        break;
-      case 12:
-        roll(0, 4) ? desk_.closeBox() : desk_.showBox("Title", control.text);
-        break;
-      case 13:
-        desk_.type("ab");
-        break;
-      case 14:
-        now_ += roll(0, 900), desk_.setNow(now_);
-        break;
-      case 15:
-        form_.show(roll(0, 1) ? kPanel : kSave);
-        break;
-      default:
-        desk_.pointerMoved({roll(0, 799), roll(0, 599)});
-        if (roll(0, 3)) desk_.pointerMoved(at(roll(kCombo, kFiles), roll(0, 80), 10));
-        roll(0, 3) ? desk_.buttonDown() : desk_.buttonUp();
-    }
+    const std::function<void()> changes[] = {
+        [&] { form_.setVisible(id == kHidden ? kPanel : id, rolled(0, 2) > 0); },
+        [&] { control.fore = anyColor(); },
+        [&] { control.back = anyColor(); },
+        [&] { control.text.assign(rolled(0, 1) != 0 ? "" : "aaaa aaaa"); },
+        [&] { form_.moveTo(kMap, -64 * rolled(0, 4), -32 * rolled(0, 4)); },
+        [&] { form_.moveTo(panel, rolled(-50, 600), rolled(-50, 400)); },
+        [&] { form_[kLine0].from = anywhere(); },
+        [&] { form_[kLine1].to = anywhere(); },
+        [&] {
+          canvas_.surface().fill({500, 100, 30, 200}, anyColor());
+          canvas_.pair(rolled(0, 990), rolled(0, 690), 60, 20, plate_, plate_);
+          canvas_.bitBlt(500, 100, 30, 200, canvasPicture_, SRCPAINT);
+          canvas_.refresh();
+        },
+        [&] { control.border = !control.border; },
+        [&] { form_[kCheck].checked = rolled(0, 1) != 0; },
+        [&] { form_[kFiles].list->items.resize(static_cast<std::size_t>(rolled(0, 20)), "new"); },
+        [&] { desk_.wheel(rolled(-2, 2)); },
+        [&] { rolled(0, 4) != 0 ? desk_.closeBox() : desk_.showBox("Title", control.text); },
+        [&] { desk_.type("ab"); },
+        [&] { now_ += rolled(0, 900), desk_.setNow(now_); },
+        [&] { form_.show(panel); },
+        [&] {
+          desk_.pointerMoved(anywhere());
+          if (rolled(0, 3) != 0) desk_.pointerMoved(at(rolled(kCombo, kFiles), rolled(0, 80), 10));
+          rolled(0, 3) != 0 ? desk_.buttonDown() : desk_.buttonUp();
+        },
+    };
+    changes[std::min<std::size_t>(dice_() % 22, std::size(changes) - 1)]();
   }
 
-  std::mt19937 dice_{11};
+  Dice dice_{11};
   std::int64_t now_ = 0;
   Surface canvasPicture_{30, 200};
   Painter painter_{testFont()};
@@ -98,52 +67,41 @@ class Painting : public Toolkit {
 
 TEST_F(Painting, WhatIsPaintedStepByStepEqualsAWholePaint) {
   for (int step = 0; step < 300; ++step) {
-    for (int i = roll(1, 3); i > 0; --i) change();
+    for (int i = rolled(1, 3); i > 0; --i) change();
     const Surface before = screen_.clone();
-    const DamageList& changed = painter_.paint(screen_, desk_, now_);
+    const std::vector<Rect> changed = paint();
     Surface outside = screen_.clone();
-    for (const Rect& r : changed.rects()) {
+    for (const Rect& r : changed) {
       BitBlt(outside, r.left, r.top, r.width, r.height, before, r.left, r.top, SRCCOPY);
     }
-    ASSERT_TRUE(samePixels(outside, before)) << "more was painted than told, step " << step;
+    ASSERT_TRUE(same(outside, before)) << "more was painted than told, step " << step;
     Painter fresh(testFont());
     Surface whole(800, 600);
     whole.clear({1, 99, 5});
     fresh.paint(whole, desk_, now_);
-    ASSERT_TRUE(samePixels(screen_, whole)) << "step " << step;
+    ASSERT_TRUE(same(screen_, whole)) << "step " << step;
   }
 }
 
-TEST_F(Painting, NothingChangedPaintsNothing) {
-  EXPECT_TRUE(painter_.paint(screen_, desk_, 0).empty());
+TEST_F(Painting, OnlyWhatChangedIsPaintedDrawingWaitsForTheRefreshAndLinesLieAboveIt) {
+  EXPECT_TRUE(paint().empty());
   form_[kHiddenButton].text.assign("not seen");
   form_[kName].fore = kYellow;
-  const DamageList& changed = painter_.paint(screen_, desk_, 0);
-  ASSERT_EQ(changed.rects().size(), 1u);
-  EXPECT_EQ(changed.rects()[0], form_.onScreen(kName));
-  EXPECT_TRUE(painter_.paint(screen_, desk_, 0).empty());
-}
-
-TEST_F(Painting, WhatIsDrawnStaysOffTheScreenUntilTheRefresh) {
-  const Color before = screen_.pixel(600, 500);
+  EXPECT_EQ(paint(), std::vector<Rect>{form_.onScreen(kName)});
   canvas_.bitBlt(690, 540, 30, 30, canvasPicture_, SRCAND);
-  EXPECT_TRUE(painter_.paint(screen_, desk_, 0).empty());
-  EXPECT_EQ(screen_.pixel(600, 500), before);
+  EXPECT_TRUE(paint().empty());
+  EXPECT_NE(screen_.pixel(600, 500), kBlack);
   canvas_.refresh();
-  EXPECT_EQ(painter_.paint(screen_, desk_, 0).rects()[0], (Rect{590, 490, 30, 30}));
+  EXPECT_EQ(paint(), (std::vector<Rect>{{590, 490, 30, 30}}));
   EXPECT_EQ(screen_.pixel(600, 500), kBlack);
-  EXPECT_TRUE(painter_.paint(screen_, desk_, 0).empty());
-}
-
-TEST_F(Painting, LinesLieAboveTheirPictureBelowItsSiblingsAndInsideIt) {
   form_[kLine0].from = {150, 200}, form_[kLine0].to = {1200, 200};
-  painter_.paint(screen_, desk_, 0);
-  EXPECT_EQ(screen_.pixel(600, 150), kGreen);
+  paint();
   EXPECT_EQ(screen_.pixel(600, 149), kGreen) << "two pixels wide";
+  EXPECT_EQ(screen_.pixel(600, 150), kGreen);
   EXPECT_NE(screen_.pixel(600, 148), kGreen);
   EXPECT_NE(screen_.pixel(60, 150), kGreen) << "the panel lies over it";
   form_[kMap].place.width = 600;
-  painter_.paint(screen_, desk_, 0);
+  paint();
   EXPECT_NE(screen_.pixel(600, 150), kGreen) << "beyond the picture";
 }
 

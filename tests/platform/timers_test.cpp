@@ -10,81 +10,50 @@ namespace platform {
 namespace {
 
 constexpr TimerDesign kTable[] = {
-    {"slow", 100, true},
-    {"quick", 40, true},
-    {"late", 20},
-    {"even", 50, true},
-};
+    {"slow", 100, true}, {"quick", 40, true}, {"late", 20}, {"even", 50, true}};
 
-struct Bench {
-  VirtualClock clock;
-  Timers timers{kTable, clock};
-
-  // Jumps to `now` and takes all that is due: "name@now name@now ...".
+struct TimerRules : testing::Test {
+  // Jumps to `now` and takes all that is due.
   std::string jump(std::int64_t now) {
-    clock.advanceTo(now);
+    clock_.advanceTo(now);
     std::string ticks;
-    for (int id = timers.takeDue(); id >= 0; id = timers.takeDue()) {
-      ticks += std::string(timers.name(id)) + " ";
-    }
+    for (int id; (id = timers_.takeDue()) >= 0;) ticks += std::string(timers_.name(id)) + " ";
     return ticks;
   }
+
+  VirtualClock clock_;
+  Timers timers_{kTable, clock_};
 };
 
-TEST(Timers, TheEarliestDueComesFirstAndTheTableDecidesBetweenEquals) {
-  Bench bench;
-  EXPECT_EQ(bench.timers.nextDue(), 40);
-  EXPECT_EQ(bench.jump(39), "");
-  EXPECT_EQ(bench.jump(40), "quick ");
-  EXPECT_EQ(bench.jump(50), "even ");
-  EXPECT_EQ(bench.jump(80), "quick ");
-  EXPECT_EQ(bench.jump(100), "slow even ");
-  EXPECT_EQ(bench.jump(159), "quick even ");  // due at 120 and 150
+TEST_F(TimerRules, TheEarliestComesFirstALittleLateKeepsTheRhythmAndMissedTicksComeOnce) {
+  EXPECT_EQ(timers_.nextDue(), 40);
+  EXPECT_EQ(jump(39), "");
+  EXPECT_EQ(jump(40), "quick ");
+  EXPECT_EQ(jump(70), "even ");
+  EXPECT_EQ(jump(100), "quick slow even ") << "the table decides between equals";
+  EXPECT_EQ(jump(159), "quick even ");
+  EXPECT_EQ(jump(1000), "quick slow even ");
+  EXPECT_EQ(jump(1049), "quick ");
 }
 
-TEST(Timers, ALittleLateKeepsTheRhythmAndMissedTicksComeOnce) {
-  Bench bench;
-  EXPECT_EQ(bench.jump(70), "quick even ");
-  EXPECT_EQ(bench.jump(80), "quick ");
-  EXPECT_EQ(bench.jump(100), "slow even ");
-  EXPECT_EQ(bench.jump(1000), "quick even slow ");
-  EXPECT_EQ(bench.timers.nextDue(), 1040);
-  EXPECT_EQ(bench.jump(1049), "quick ");
-  EXPECT_EQ(bench.jump(1050), "even ");
-}
-
-TEST(Timers, SwitchingOnStartsTheIntervalAndChangesNothingWhileItRuns) {
-  Bench bench;
-  const int late = bench.timers.find("late");
-  bench.jump(30);
-  bench.timers.enable(late);
-  bench.clock.advanceTo(45);
-  bench.timers.enable(late);
-  EXPECT_EQ(bench.jump(49), "quick ");
-  EXPECT_EQ(bench.jump(50), "late even ");
-  bench.timers.disable(late);
-  bench.jump(69);
-  bench.timers.enable(late);
-  EXPECT_EQ(bench.jump(88), "quick ");
-  EXPECT_EQ(bench.jump(89), "late ");
-}
-
-TEST(Timers, AHandlerMaySwitchItsOwnTimerAndThoseThatWait) {
-  Bench bench;
-  const int slow = bench.timers.find("slow");
-  const int even = bench.timers.find("even");
-  bench.jump(99);
-  bench.clock.advanceTo(100);
-  ASSERT_EQ(bench.timers.takeDue(), slow);
-  bench.timers.disable(slow);
-  bench.timers.disable(even);
-  EXPECT_EQ(bench.timers.takeDue(), -1);
-  bench.timers.enable(even);  // starts afresh: what was due at 100 is gone
-  EXPECT_EQ(bench.jump(149), "quick ");
-  EXPECT_EQ(bench.jump(150), "even ");
-  for (int id = 0; id < bench.timers.count(); ++id) bench.timers.disable(id);
-  EXPECT_EQ(bench.timers.nextDue(), -1);
-  EXPECT_EQ(bench.timers.find("missing"), -1);
+TEST_F(TimerRules, SwitchingOnStartsTheIntervalAndDropsWhatWasDueButNotWhileItRuns) {
+  enum { slow, quick, late, even };
+  jump(30);
+  timers_.enable(late);
+  clock_.advanceTo(45);
+  timers_.enable(late);
+  EXPECT_EQ(jump(50), "quick late even ");
+  timers_.disable(late);
+  jump(99);
+  clock_.advanceTo(100);
+  ASSERT_EQ(timers_.takeDue(), slow);
+  timers_.disable(slow);
+  timers_.disable(even);
+  EXPECT_EQ(timers_.takeDue(), -1);
+  timers_.enable(even);
+  EXPECT_EQ(jump(149), "quick ");
+  for (int id = 0; id < timers_.count(); ++id) timers_.disable(id);
+  EXPECT_EQ(timers_.nextDue(), -1);
 }
 
 }  // namespace
