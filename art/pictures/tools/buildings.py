@@ -1,4 +1,4 @@
-"""Everything that is modelled as a scene: buildings, tent, fields, doctor,
+"""Everything that is modelled as a scene: buildings, tent, ploughed field, doctor,
 front walls and tower, the bushes of the third ground."""
 import numpy as np
 from iso import *
@@ -16,9 +16,7 @@ DRAWINGS = {
     'tavern':    ('tavern', 'tall', {}, [44, 46, 45, 47]),
     'church':    ('church', 'tall', {}, [14, 32, 18, 15]),
     'doctor':    ('doctor', 'tiletall', {}, [12]),
-    'field':     ('farm', 'tile', {'declare': ['Stage=0'], 'endless': True, 'line': .3}, [13]),
-    'crop':      ('farm', 'tile', {'declare': ['Stage=1'], 'endless': True, 'line': .45}, [54]),
-    'straw':     ('farm', 'tile', {'declare': ['Stage=2'], 'endless': True, 'line': .15, 'sharp': .2}, [55]),
+    'field':     ('farm', 'tile', {'endless': True, 'line': .3}, [13]),
     'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'own': ['Which=0', 'Own=1'], 'fade': ''}, [59]),
     'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'own': ['Which=1', 'Own=1'], 'fade': ''}, [60]),
     'tower':     ('wall', 'tiletall', {'declare': ['Which=2'], 'fade': 'x'}, [61]),
