@@ -29,7 +29,8 @@ STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
 EDGES = np.array([e for e, _ in PROFILE])
-PAVING, SEAM, SILL = (to_lin(rgb(c)) for c in ('a09888', '766e60', 'bfb6a2'))
+STONES = np.array([rgb(c) for c in ('9d9585', '979080', 'a39b8b', '9a9282')])
+JOINT, LIT = rgb('8d8575'), rgb('a9a190')
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
@@ -117,33 +118,42 @@ def corner(vertex):
     return exact_arms(img, vertex)
 
 
-def ramp(t):
-    t = np.clip(t, 0, 1)
-    return (t * t * (3 - 2 * t))[..., None]
+def setts():
+    """Small stones in bond over a cell, in the greys of the road, and where
+    they lie: not by the kerbs, and fewer towards the edges, so that no line
+    crosses an arm."""
+    rnd = np.random.RandomState(37)
+    y, x = np.mgrid[0:TH, 0:TW]
+    a = np.clip(x + 2 * y - 32, 0, 63)              # 64 steps along u, 64 along v
+    b = np.clip(2 * y - x + 32, 0, 63) + 4 * (a // 8 % 2)
+    row, stone = a // 8, b // 8
+    tone = rnd.randint(len(STONES), size=(8, 9))[row, stone]
+    chance = rnd.rand(8, 9)[row, stone]
+    col = STONES[tone]
+    col = np.where(((a % 8 < 2) | (b % 8 < 2))[..., None], JOINT, col)
+    lit = (a % 8 >= 2) & (a % 8 < 4) & (b % 8 >= 2) & (b % 8 < 4)
+    col = np.where(lit[..., None], LIT, col)
+    u, v = (row + .5) / 8, (stone * 8 + 4 - 4 * (row % 2)) / 64
+    du, dv = np.minimum(u, 1 - u), np.minimum(v, 1 - v)
+    laid = (np.hypot(du, dv) > .30) & (chance < (np.minimum(du, dv) - .01) / .17)
+    return col, laid
 
 
 def junction():
     """Four arms; each quarter of the cell turns round its own vertex, and the
-    wheel tracks fade into even paving.  The picture also stands where three
-    arms meet: a row of flush stones along each edge, little lighter than the
-    paving, closes the side without a road and is a joint where there is one.
-    It keeps off the corners, alike on all four sides, since a walker's block
-    covers one of them."""
+    wheel tracks end in small paving as sharp as they are.  The picture also
+    stands where three arms meet, so nothing in it may mark a side as open or
+    closed."""
     def paint(u, v):
         out = np.zeros(u.shape + (3,))
         for cu, cv in VERTEX.values():
             here = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
             a, b = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
             out[here] = shaded(a, b, cu, cv, .5)[here]
-        du, dv = np.minimum(u, 1 - u), np.minimum(v, 1 - v)
-        edge, along = np.minimum(du, dv), np.maximum(du, dv)
-        even = .9 * ramp((edge - .12) / .12) * ramp((np.hypot(du, dv) - .26) / .10)
-        out = out * (1 - even) + PAVING * even
-        seam = .75 * ramp((along - .29) / .03)
-        return np.where((edge < .07)[..., None],
-                        out * (1 - seam) + np.where((edge < .03)[..., None], SEAM, SILL) * seam, out)
+        return out
 
-    img = rgba(to_srgb(supersampled(paint)), diamond_mask())
+    stones, laid = setts()
+    img = rgba(np.where(laid[..., None], stones, to_srgb(supersampled(paint))), diamond_mask())
     u, v = cell_uv()
     for name, (cu, cv) in VERTEX.items():
         quarter = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
