@@ -177,6 +177,7 @@ void Hands::planInGame(driver::Session& session) {
   } else if (kind < 14) {
     for (const char* step : {"click gmmenu", "click ldgame", "file", "click cmdload"}) add(step);
     add("advance " + to_string(chance_.between(100, 700)));
+    if (chance_.percent(50)) planStreet(session);
   } else if (kind < 15) {
     add("click seer " + to_string(chance_.draw(6)));
     add(wait());
@@ -223,13 +224,18 @@ void Hands::planTown() {
 void Hands::planStreet(driver::Session& session) {
   const int side = session.program().values().gMapSize.whole();
   const int first = (30 - side) / 2;
-  const int length = std::min(chance_.between(6, 16), side);
-  const int x = chance_.between(first, first + side - length + 1);
-  const int y = chance_.between(first, first + side);
+  const int length = std::min(chance_.between(6, 12), side);
   const bool alongX = chance_.percent(50);
-  const auto press = [&](int along, int across) {
-    add("at " + to_string(alongX ? x + along : y + across) + " " +
-        to_string(alongX ? y + across : x + along));
+  // It begins at a cell in sight, up on the left or right so that its far end is in sight too.
+  const platform::Rect map =
+      session.program().screen()->form().onScreen(core::game_control::picScroll);
+  const int across = (alongX ? chance_.between(60, 300) : chance_.between(320, 560)) - map.left;
+  const int down = chance_.between(100, 300) - map.top;
+  const int x = std::clamp((2 * (down - 32) + across - 992) / 64, first, first + side);
+  const int y = std::clamp((2 * (down - 32) - across + 992) / 64, first, first + side);
+  const auto press = [&](int along, int aside) {
+    add("at " + to_string(x + (alongX ? along : aside)) + " " +
+        to_string(y + (alongX ? aside : along)));
   };
   const auto take = [this](int index) { add("click Command1 " + to_string(index)); };
   add("click building");
@@ -237,9 +243,9 @@ void Hands::planStreet(driver::Session& session) {
   // With all five services its residences grow to the top.
   int services = chance_.percent(50) ? 5 : 0;
   for (int n = 0; n + 1 < length; n += 2) {
-    for (const int across : {1, -2}) {
+    for (const int aside : {1, -2}) {
       take(services > 0 ? services-- : chance_.percent(85) ? 0 : chance_.between(1, 5));
-      press(n, across);
+      press(n, aside);
     }
   }
   if (chance_.percent(60)) {

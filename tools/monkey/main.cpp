@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kDearEvery = 16;
 constexpr int kPicturesEvery = 128;
-constexpr int kMischiefEvery = 200;
+constexpr int kMischiefEvery = 100;
 constexpr int kPaintEvery = 3;
 
 class Monkey {
@@ -67,9 +67,9 @@ class Monkey {
     std::printf(
         "\n%ld sound and %ld spoilt games loaded; roads lost %ld, quakes %ld; missions won %ld, "
         "failed "
-        "%ld; puzzles ended %ld; %.0f people at most\n",
+        "%ld; puzzles ended %ld; %.0f people and %d apartments at most\n",
         tally.loads, tally.spoiltLoads, tally.losses, tally.quakes, tally.won, tally.failed,
-        tally.solved, tally.mostPeople);
+        tally.solved, tally.mostPeople, tally.mostApartments);
   }
 
  private:

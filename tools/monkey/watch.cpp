@@ -130,6 +130,13 @@ void Watch::after(bool dear) {
   taxRate_ = game()->taxRate;
   watchIds();
   wrong(cityFault(*game(), values(), stale_ || onSince_[timer::Timer8] >= 0));
+  if (dear && values().gMission != 16) {
+    int apartments = 0;
+    for (int y = 0; y <= core::kLastCell; ++y) {
+      for (int x = 0; x <= core::kLastCell; ++x) apartments += game()->tileImage(x, y) == 3;
+    }
+    tally_.mostApartments = std::max(tally_.mostApartments, apartments);
+  }
   if (dear && !coverFits(*game())) wrong("an effect area is not that of the buildings");
 }
 

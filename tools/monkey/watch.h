@@ -38,6 +38,7 @@ class Watch {
     std::array<long, 30> games{};  // by the mission that the screen was opened for
     long loads = 0, spoiltLoads = 0, losses = 0, quakes = 0, won = 0, failed = 0, solved = 0;
     double mostPeople = 0;
+    int mostApartments = 0;  // but for the demonstration
   };
   const Tally& tally() const { return tally_; }
 
