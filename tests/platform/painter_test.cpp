@@ -34,7 +34,6 @@ class Painting : public Toolkit {
         [&] { form_.moveTo(kMap, -64 * rolled(0, 4), -32 * rolled(0, 4)); },
         [&] { form_.moveTo(panel, rolled(-50, 600), rolled(-50, 400)); },
         [&] { form_[kLine0].from = anywhere(); },
-        [&] { form_[kLine1].to = anywhere(); },
         [&] {
           canvas_.surface().fill({500, 100, 30, 200}, anyColor());
           canvas_.pair(rolled(0, 990), rolled(0, 690), 60, 20, plate_, plate_);
@@ -42,7 +41,7 @@ class Painting : public Toolkit {
           canvas_.refresh();
         },
         [&] { control.border = !control.border; },
-        [&] { form_[kCheck].checked = rolled(0, 1) != 0; },
+        [&] { form_[kCheck].checked = !form_[kCheck].checked; },
         [&] { form_[kFiles].list->items.resize(static_cast<std::size_t>(rolled(0, 20)), "new"); },
         [&] { desk_.wheel(rolled(-2, 2)); },
         [&] { rolled(0, 4) != 0 ? desk_.closeBox() : desk_.showBox("Title", control.text); },
