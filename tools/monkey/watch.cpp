@@ -51,7 +51,7 @@ void Watch::begin(driver::Session& session) {
 
 void Watch::newScreen() {
   opened_ = session_->program().desk().opened();
-  spoilt_ = stale_ = shaken_ = misplaced_ = false;
+  spoilt_ = stale_ = shaken_ = misplaced_ = openedWell_ = false;
   onSince_.fill(-1);
   loading_.clear();
   loadingRecord_ = nullptr;
