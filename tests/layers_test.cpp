@@ -6,7 +6,6 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <string>
 
 namespace {
@@ -39,10 +38,11 @@ bool holds(const std::string& list, const std::string& word) {
 }
 
 bool callsInexact(const std::string& line) {
-  static const std::regex call("([A-Za-z0-9_]+)\\(");
+  constexpr const char* kWord = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
   const std::string code = line.substr(0, line.find("//"));
-  for (std::sregex_iterator at(code.begin(), code.end(), call), end; at != end; ++at) {
-    if (holds(kInexact, at->str(1))) return true;
+  for (std::size_t at = code.find('('); at != std::string::npos; at = code.find('(', at + 1)) {
+    const std::string before = code.substr(0, at);
+    if (holds(kInexact, before.substr(before.find_last_not_of(kWord) + 1))) return true;
   }
   return false;
 }
