@@ -194,7 +194,7 @@ bool isInside(const store::Record& record) {
     return value >= low && value <= high && value == static_cast<int>(value);
   };
   const double mission = record.values.gMission;
-  if (!whole(mission, 1, 29) || (mission > 10 && mission < 20 && mission != 15 && mission != 16) ||
+  if (!whole(mission, 1, 29) || (mission > 11 && mission < 20 && mission != 15 && mission != 16) ||
       !whole(record.values.gMapSize, 4, 28) || record.values.gMapSize.whole() % 2 != 0 ||
       !whole(game.month, 1, 12) || !whole(game.historyIndex, 1, 43) ||
       !whole(game.currentTool, 1, 10) || !(game.ticksPerMonth >= 1) || !(game.monthLength >= 1) ||
