@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <clocale>
 #include <filesystem>
 #include <random>
 
@@ -13,6 +14,7 @@
 namespace store {
 namespace {
 
+using support::faultOf;
 using support::newGame;
 using support::textOf;
 
@@ -74,6 +76,32 @@ TEST(RecordFile, AWriterKilledAtAnyMomentLeavesAGameThatLoads) {
 }
 
 constexpr const char* kFresh = "1,0,0,0,0,0,0,0,0,0,0,0\r\n";
+
+TEST(RecordFile, ACommaLocaleChangesNothing) {
+  const support::TempFolder folder;
+  support::putFile(folder / "comma",
+                   "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3;3\n"
+                   "END LC_NUMERIC\n");
+  // It complains of the categories that are missing, and makes the locale all the same.
+  const std::string make = "localedef -c -i " + (folder / "comma") + " " + (folder / "xx_XX");
+  ASSERT_NE(std::system((make + " >/dev/null 2>/dev/null").c_str()), -1);
+  auto game = newGame();
+  game->game.gold = 1234567.5;
+  const std::string text = textOf(*game);
+  const pid_t child = fork();
+  if (child == 0) {
+    setenv("LOCPATH", folder.path().c_str(), 1);
+    char number[16];
+    if (setlocale(LC_NUMERIC, "xx_XX") == nullptr) _exit(1);
+    if (std::snprintf(number, sizeof number, "%.1f", .5) != 3 || number[1] != ',') _exit(2);
+    const auto back = std::make_unique<Record>();
+    if (textOf(*game) != text || faultOf(text, *back) != "") _exit(3);
+    _exit(back->game.gold == 1234567.5 ? 0 : 4);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+}
 
 TEST(Progress, IsOneLineOfTwelveNumbersThatAreCarriedUnchanged) {
   const support::TempFolder folder;
