@@ -1,13 +1,9 @@
 #include "platform/font.h"
 
-#include <ft2build.h>
-#include FT_FREETYPE_H
-#include FT_MODULE_H
-
 #include <array>
-#include <cstring>
 #include <vector>
 
+#include "platform/glyphs.h"
 #include "platform/utf8.h"
 
 namespace platform {
@@ -26,16 +22,6 @@ constexpr std::size_t kOnDemand = 256;  // other characters kept at a time, all 
 std::size_t number(FontSize size) {
   return static_cast<std::size_t>(size);
 }
-
-struct Glyph {
-  char32_t code = 0;
-  int advance = 0;
-  int left = 0;  // from the pen to the bitmap
-  int top = 0;   // from the base line up to the bitmap's first row
-  int width = 0;
-  int height = 0;
-  std::vector<std::uint8_t> cover;  // one byte a pixel
-};
 
 /// What stands for a character that the font has not: an empty box of letter height.
 Glyph emptyBox(int pixels) {
@@ -62,9 +48,7 @@ int lineHeight(FontSize size) {
 }
 
 struct Font::Implementation {
-  FT_Library library = nullptr;
-  FT_Face face = nullptr;
-  std::size_t faceSize = kSizes;   // the size the face is set to
+  std::unique_ptr<Glyphs> glyphs;
   std::array<int, kSizes> base{};  // from the top of a line to its base line
   std::array<std::array<Glyph, kPreparedPerSize>, kSizes> prepared;
   struct Kept {
@@ -74,26 +58,15 @@ struct Font::Implementation {
   std::vector<Kept> kept;
   std::size_t oldest = 0;  // the one to give way when all places are taken
 
-  ~Implementation() {
-    if (face != nullptr) FT_Done_Face(face);
-    if (library != nullptr) FT_Done_FreeType(library);
-  }
-
-  const char* start(const std::string& path);
+  bool start(const std::string& path, std::string& error);
   Glyph render(char32_t code, std::size_t size);
   const Glyph& glyph(char32_t code, std::size_t size);
 };
 
-/// Opens the font and prepares its plain letters. Returns what is wrong, or nothing.
-const char* Font::Implementation::start(const std::string& path) {
-  if (FT_Init_FreeType(&library) != 0) return "the text library does not start";
-  // Bold letters at these sizes look half bold unless their stems are darkened.
-  FT_Bool no = 0;
-  FT_Property_Set(library, "cff", "no-stem-darkening", &no);
-  const FT_Error opened = FT_New_Face(library, path.c_str(), 0, &face);
-  if (opened == FT_Err_Cannot_Open_Resource) return "cannot be opened";
-  if (opened != 0) return "not a usable font";
-  if (!FT_IS_SCALABLE(face)) return "a font without outlines";
+/// Opens the font and prepares its plain letters.
+bool Font::Implementation::start(const std::string& path, std::string& error) {
+  glyphs = openGlyphs(path, error);
+  if (glyphs == nullptr) return false;
   for (std::size_t size = 0; size < kSizes; ++size) {
     for (char32_t code = kFirstPrepared; code <= kLastPrepared; ++code) {
       prepared[size][code - kFirstPrepared] = render(code, size);
@@ -103,32 +76,12 @@ const char* Font::Implementation::start(const std::string& path) {
     base[size] = (kLineHeights[size] + capital + 1) / 2;
   }
   kept.reserve(kOnDemand);
-  return nullptr;
+  return true;
 }
 
 Glyph Font::Implementation::render(char32_t code, std::size_t size) {
-  if (faceSize != size) {
-    FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(kPixels[size]));
-    faceSize = size;
-  }
   Glyph glyph;
-  const FT_UInt index = FT_Get_Char_Index(face, code);
-  if (index == 0 || FT_Load_Glyph(face, index, FT_LOAD_RENDER | FT_LOAD_TARGET_NORMAL) != 0 ||
-      face->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY) {
-    glyph = emptyBox(kPixels[size]);
-  } else {
-    const FT_Bitmap& bitmap = face->glyph->bitmap;
-    glyph.advance = static_cast<int>((face->glyph->advance.x + 32) >> 6);
-    glyph.left = face->glyph->bitmap_left;
-    glyph.top = face->glyph->bitmap_top;
-    glyph.width = static_cast<int>(bitmap.width);
-    glyph.height = static_cast<int>(bitmap.rows);
-    glyph.cover.resize(static_cast<std::size_t>(glyph.width * glyph.height));
-    for (int y = 0; y < glyph.height && glyph.width > 0; ++y) {
-      std::memcpy(&glyph.cover[static_cast<std::size_t>(y * glyph.width)],
-                  bitmap.buffer + y * bitmap.pitch, static_cast<std::size_t>(glyph.width));
-    }
-  }
+  if (!glyphs->render(code, kPixels[size], glyph)) glyph = emptyBox(kPixels[size]);
   glyph.code = code;
   return glyph;
 }
@@ -150,10 +103,7 @@ Font::~Font() = default;
 
 std::unique_ptr<Font> Font::open(const std::string& path, std::string& error) {
   std::unique_ptr<Font> font(new Font);
-  if (const char* wrong = font->implementation_->start(path)) {
-    error = path + ": " + wrong;
-    return nullptr;
-  }
+  if (!font->implementation_->start(path, error)) return nullptr;
   return font;
 }
 

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "platform/system_error.h"
+#include "platform/desktop/system_error.h"
 
 namespace platform {
 

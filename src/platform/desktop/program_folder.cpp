@@ -6,8 +6,8 @@
 #include <climits>
 #include <cstdlib>
 
+#include "platform/desktop/system_error.h"
 #include "platform/files.h"
-#include "platform/system_error.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "platform/system_error.h"
+#include "platform/desktop/system_error.h"
 
 #include <cerrno>
 

@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/desktop/system_error.h"
 #include "platform/files.h"
-#include "platform/system_error.h"
 
 namespace platform {
 
