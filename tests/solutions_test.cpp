@@ -1,5 +1,5 @@
-// Every level can be won by play alone: each script of tests/solutions starts at the menu, presses and
-// clicks, and says at its end how it must have come out.
+// Every level can be won by play alone: each recorded play in docs/solutions starts at the menu,
+// presses and clicks, and says at its end how it must have come out.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 
 namespace {
 
-const std::string kFolder = VELLMORAN_SOURCE_DIR "/tests/solutions/";
+const std::string kFolder = VELLMORAN_SOURCE_DIR "/docs/solutions/";
 
 std::vector<std::string> solutions() {
   std::vector<std::string> names;
