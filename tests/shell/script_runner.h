@@ -1,12 +1,18 @@
-// Plays driver scripts as tests. A script is what the driver itself takes, with these remarks:
+// Plays driver scripts as tests. A script is what the driver itself takes, one command a line; each
+// must be answered with ok. Added to that:
 //
-//   #= ok 600           the answer that the command above must give, whole
-//   #~ "shown":true     a part that its answer must have; several may follow one another
-//   #file NAME TEXT     a file in the program's folder must begin so after the command above
-//   #write NAME TEXT    puts a file into the program's folder before the script starts
+//   get gold => 600                          the answer must be 600, or begin with this word
+//   control bilgi => shown=true left=200     the object must have these fields
+//   box => ~is not a number                  the answer must contain this text
+//   #file NAME TEXT                          a file in the program's folder must begin like this
+//   #write NAME TEXT                         puts a file into the folder before the program starts
 //
-// and one short form: @x,y stands for the screen pixel in the middle of cell (x, y), wherever the map
-// has been slid to. A command without an expected answer must be answered with ok.
+//   @x,y                                     the screen pixel in the middle of cell (x, y), wherever
+//                                            the map has been slid to; press takes several of them
+//   open-play, puzzle ROW, save NAME, load NAME    the clicks that lead there
+//
+// The recorded plays of docs/solutions are plain driver scripts; there a remark "#= ok 600" states the
+// answer to the command above it.
 #pragma once
 
 #include <memory>
