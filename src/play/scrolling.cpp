@@ -1,5 +1,7 @@
 #include "play/scrolling.h"
 
+#include "sim/disasters.h"
+
 namespace play {
 
 namespace {
@@ -16,25 +18,24 @@ constexpr int kBottomLimit = 600 - (1056 - 30);
 
 }  // namespace
 
+void placeMap(Scene& scene) {
+  const core::GameState& game = scene.game;
+  const platform::Rect rest = map::surfacePlace(map::kTallCells);
+  scene.form.moveTo(ui::picScroll, rest.left - game.scrollX + sim::shakeOffset(game),
+                    rest.top - game.scrollY);
+}
+
 void scrollAtEdges(Scene& scene) {
   core::GameState& game = scene.game;
-  const platform::Rect& place = scene.form[ui::picScroll].place;
-  if (game.cursorX < 10 && place.left <= kLeftLimit) {
-    scene.form.moveTo(ui::picScroll, place.left + kStepX, place.top);
-    game.scrollX -= kStepX;
-  }
-  if (game.cursorX > 795 && place.left >= kRightLimit) {
-    scene.form.moveTo(ui::picScroll, place.left - kStepX, place.top);
-    game.scrollX += kStepX;
-  }
-  if (game.cursorY < 10 && place.top <= kTopLimit) {
-    scene.form.moveTo(ui::picScroll, place.left, place.top + kStepY);
-    game.scrollY -= kStepY;
-  }
-  if (game.cursorY > 595 && place.top >= kBottomLimit) {
-    scene.form.moveTo(ui::picScroll, place.left, place.top - kStepY);
-    game.scrollY += kStepY;
-  }
+  // The limits are those of the place without the shake.
+  const platform::Rect rest = map::surfacePlace(map::kTallCells);
+  const int scrolledX = game.scrollX;
+  const int scrolledY = game.scrollY;
+  if (game.cursorX < 10 && rest.left - game.scrollX <= kLeftLimit) game.scrollX -= kStepX;
+  if (game.cursorX > 795 && rest.left - game.scrollX >= kRightLimit) game.scrollX += kStepX;
+  if (game.cursorY < 10 && rest.top - game.scrollY <= kTopLimit) game.scrollY -= kStepY;
+  if (game.cursorY > 595 && rest.top - game.scrollY >= kBottomLimit) game.scrollY += kStepY;
+  if (game.scrollX != scrolledX || game.scrollY != scrolledY) placeMap(scene);
 }
 
 }  // namespace play

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "scenario/missions.h"
+#include "scenario/outcome.h"
 #include "store/progress.h"
 #include "store/record.h"
 
@@ -82,27 +83,21 @@ bool missionGoalMet(const core::GameState& game, int mission) {
   }
 }
 
-void showOutcome(play::Scene& scene, const char* text) {
-  scene.text(play::ui::Command4).assign(text);
-  scene.form.moveTo(play::ui::mscompfrm, 200, 200);
-  scene.form.show(play::ui::mscompfrm);
-}
-
 void checkMissionEnd(play::Scene& scene, const std::string& folder) {
   core::ProgramValues& values = scene.values;
   const int number = values.gMission.whole();
   if (number < 1 || number > kCampaignWon) return;
   if (number != kCampaignWon) {
-    if (mission(number).judgementYear == 0 || values.gYear != mission(number).judgementYear) return;
+    const int year = mission(number).judgementYear;
+    // The month counts too: who goes on playing a mission that was lost is not judged again.
+    if (year == 0 || values.gYear != year || scene.game.month != 1) return;
     if (!missionGoalMet(scene.game, number)) {
-      showOutcome(scene, "MISSION FAILED");
-      scene.timers.enable(play::timer::Timer11);
+      endRun(scene, "MISSION FAILED", play::timer::Timer11);
       return;
     }
     values.gMission = number + 1;
   }
   raiseProgress(scene, folder);
-  scene.timers.disable(play::timer::Timer2);
   if (values.gMission < kCampaignWon) {
     // The city goes over as it stands at this moment of the month, before the tick's money.
     std::string error;
@@ -110,8 +105,7 @@ void checkMissionEnd(play::Scene& scene, const std::string& folder) {
     if (!store::saveGame(path, scene.game, values, error)) tell(scene, error);
   }
   core::setCaption(scene.text(play::ui::pop1), "Population:", scene.game.population);
-  showOutcome(scene, "MISSION COMPLETED");
-  scene.timers.enable(play::timer::Timer9);
+  endRun(scene, "MISSION COMPLETED", play::timer::Timer9);
 }
 
 }  // namespace scenario

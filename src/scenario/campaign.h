@@ -15,7 +15,4 @@ bool missionGoalMet(const core::GameState& game, int mission);
 /// `folder` is the program's folder. A file that fails is told in a message box.
 void checkMissionEnd(play::Scene& scene, const std::string& folder);
 
-/// Shows the panel with the outcome of a mission or a level.
-void showOutcome(play::Scene& scene, const char* text);
-
 }  // namespace scenario

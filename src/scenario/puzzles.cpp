@@ -5,7 +5,7 @@
 #include "core/goals.h"
 #include "core/number_text.h"
 #include "core/vocabulary.h"
-#include "scenario/campaign.h"
+#include "scenario/outcome.h"
 #include "store/progress.h"
 
 namespace scenario {
@@ -36,7 +36,7 @@ constexpr std::array<Puzzle, 10> kTable{{
 // clang-format on
 
 void endLevel(Scene& scene, const char* outcome) {
-  showOutcome(scene, outcome);
+  endRun(scene, outcome, timer::Timer15);
   scene.values.gReturnPuzzle = 1;
   core::setCaption(scene.text(ui::pop1), "Population:", scene.game.population);
   scene.timers.enable(timer::Timer15);

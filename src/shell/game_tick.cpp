@@ -5,6 +5,7 @@
 #include "core/goals.h"
 #include "core/number_text.h"
 #include "play/press.h"
+#include "play/scrolling.h"
 #include "play/status_report.h"
 #include "scenario/campaign.h"
 #include "scenario/missions.h"
@@ -126,10 +127,9 @@ void captionTick(GameScreen& screen) {
 void shakeTick(GameScreen& screen) {
   Scene& scene = screen.scene();
   core::GameState& game = scene.game;
-  const sim::ShakeStep step = sim::shake(game);
-  const platform::Rect& place = scene.form[ui::picScroll].place;
-  scene.form.moveTo(ui::picScroll, place.left + step.moveX, place.top);
-  if (!step.over) return;
+  const bool over = sim::shake(game);
+  play::placeMap(scene);
+  if (!over) return;
   sim::collapse(game, screen.random());
   sim::rebuildCoverage(game);
   sim::floodServices(game, sim::FloodCause::other);

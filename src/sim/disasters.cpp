@@ -65,15 +65,15 @@ void beginEarthquake(GameState& game) {
   game.populationBeforeQuake = game.population;
 }
 
-ShakeStep shake(GameState& game) {
-  ShakeStep step;
-  if (game.quakeShakePhase == 0) step.moveX = -kShakePixels;
-  if (game.quakeShakePhase == 1) step.moveX = kShakePixels;
+bool shake(GameState& game) {
   ++game.quakeShakePhase;
   ++game.quakeShakeTicks;
   if (game.quakeShakePhase == 2) game.quakeShakePhase = 0;
-  step.over = game.quakeShakeTicks >= kShakeTicks;
-  return step;
+  return game.quakeShakeTicks >= kShakeTicks;
+}
+
+int shakeOffset(const GameState& game) {
+  return game.quakeShakePhase == 1 ? -kShakePixels : 0;
 }
 
 void collapse(GameState& game, platform::Random& random) {

@@ -11,13 +11,10 @@ namespace sim {
 bool earthquakeDue(const core::GameState& game, const core::ProgramValues& values);
 /// Begins the shake. The caller switches Timer12 on and shows "EARTHQUAKE!!!".
 void beginEarthquake(core::GameState& game);
-/// One tick of the shake: how far the picture moves (32 pixels left or right, negative is left), and
-/// whether the shake is over and the collapse follows.
-struct ShakeStep {
-  int moveX = 0;
-  bool over = false;
-};
-ShakeStep shake(core::GameState& game);
+/// One tick of the shake. True when it is over and the collapse follows.
+bool shake(core::GameState& game);
+/// How far the shake holds the picture from its place now, in pixels to the right.
+int shakeOffset(const core::GameState& game);
 /// Brings buildings down; each standing cell of a building has one chance in ten. Clears the layers of
 /// the services that still have a standing cell when the scan comes to it. No rebuild: the caller
 /// runs the four rebuilds, marks all cells, redraws, and calls endEarthquake.
