@@ -24,25 +24,28 @@ DRAWINGS = {
 ODD_BOX = (5, 6)          # 63 x 33: drawn as 64 x 32, so nothing may be lost
 
 
-def fit(n, piece):
+def fit(n, piece, s):
+    """The piece in the box of its picture.  At scale 2 two pixels of the tip
+    of the odd ones lie beyond their box."""
     if n not in ODD_BOX:
         return piece
-    out = np.zeros((33, 63, 4), np.uint8)
-    out[:32] = piece[:, :63]
-    if piece[:, 63, 3].any():
+    out = np.zeros((33 * s, 63 * s, 4), np.uint8)
+    out[:32 * s] = piece[:, :63 * s]
+    if (piece[:, 63 * s:, 3] > 0).sum() > (s - 1) * 2:
         raise SystemExit('picture %d needs its last column' % n)
     return out
 
 
 def draw(name):
     scene, kind, opts, numbers = DRAWINGS[name]
-    img, table = scenes.finish(scene, kind, dict(opts, **{'as': name}))
-    if table is None:
-        save_pair(numbers[0], img)
-        return
-    pieces = cut(img, table)
-    for n, (key, _, _) in zip(numbers, table):
-        save_pair(n, fit(n, pieces[key]))
+    drawings, table = scenes.finish(scene, kind, dict(opts, **{'as': name}))
+    for s, img in drawings.items():
+        if table is None:
+            save_pair(numbers[0], img, s)
+            continue
+        pieces = cut(img, table, s)
+        for n, (key, _, _) in zip(numbers, table):
+            save_pair(n, fit(n, pieces[key], s), s)
 
 
 def render(names=()):

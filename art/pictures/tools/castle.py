@@ -29,9 +29,9 @@ def castle():
     w.Z = np.where(rim < 0, 3.0 * np.clip(rim, -2, 0), 0).astype(np.float32)
     w.write()
     x0, y0, W, H = CASTLE
-    img, _ = shot('castle', W, H, 992 - x0, 32 - y0, 4, 24)
-    img[crop(square(12), *CASTLE)] = 0
-    save_rgb('tile/62', img)
+    for s, img in shot('castle', W, H, 992 - x0, 32 - y0, 4, 24).items():
+        img[box(square(12, s), *CASTLE, s)] = 0
+        save_rgb('tile/62', img, s)
 
 
 def render(parts=None):

@@ -1,6 +1,6 @@
 """Checks of the map pictures in data/; art/render runs them at its end.
 
-Each check returns the lines of what is wrong."""
+Each check takes a scale and returns the lines of what is wrong there."""
 import numpy as np
 from iso import *
 import buildings
@@ -14,15 +14,14 @@ TALL = [3, 8, 9, 10, 12, 14, 18, 25, 26, 27, 31, 32, 44, 45, 46, 59, 60, 61]
 BLOCKS = sorted(n for _, _, _, f in walkers.WALKS.values() for n in f) + [56, 57]
 SIZES = {**{n: (64, 32) for n in FLAT}, **{n: (64, 64) for n in TALL}, 5: (63, 33), 6: (63, 33)}
 WHOLE = [n for n in FLAT if n not in (7, 11, 15, 19, 30, 33, 34, 35, 47)]   # alone on their cell
-DIAMOND = diamond_mask()
-OFFSETS = {'n': (32, 32), 'e': (64, 48), 'w': (0, 48), 's': (32, 64)}       # flat boxes of the pieces
+DIAMOND = {s: diamond_mask(1, s) for s in SCALES}
 
 
-def formats():
+def formats(s):
     for n, size in sorted(SIZES.items()):
-        im = Image.open('%s/%02d.png' % (PAIR, n))
+        im = Image.open(path('pair/%02d' % n, s))
         a = np.array(im)
-        if im.mode != 'RGBA' or im.size != size:
+        if im.mode != 'RGBA' or im.size != (size[0] * s, size[1] * s):
             yield 'pair %02d is %s %s, not RGBA %s' % (n, im.mode, im.size, size)
             continue
         if not np.isin(a[..., 3], (0, 255)).all():
@@ -30,153 +29,153 @@ def formats():
         if a[a[..., 3] == 0][:, :3].any():
             yield 'pair %02d has colour under transparent pixels' % n
     for n in BLOCKS:
-        im = Image.open('%s/%02d.png' % (TILE, n))
-        if im.mode != 'RGB' or im.size != (12, 17):
+        im = Image.open(path('tile/%02d' % n, s))
+        if im.mode != 'RGB' or im.size != (12 * s, 17 * s):
             yield 'tile %02d is %s %s, not RGB 12 x 17' % (n, im.mode, im.size)
 
 
-def diamonds():
+def diamonds(s):
     """Cells partition the plane, flat pictures fill exactly their diamond and
     the one-cell tall ones at least theirs."""
-    count = np.zeros((32 * 4, 64 * 4), int)
+    count = np.zeros((32 * 4 * s, 64 * 4 * s), int)
     for X in range(-1, 8):
         for Y in range(-8, 8):
             x, y = 96 + 32 * (X - Y), 16 * (X + Y)
             if 0 <= x <= 192 and 0 <= y <= 96:
-                count[y:y + 32, x:x + 64] += DIAMOND
-    if DIAMOND.sum() != 1024 or (count[32:96, 64:192] != 1).any():
+                box(count, x, y, 64, 32, s)[:] += DIAMOND[s]
+    if DIAMOND[s].sum() != 1024 * s * s or (box(count, 64, 32, 128, 64, s) != 1).any():
         yield 'the diamonds do not partition the plane'
     for n in WHOLE:
-        if ((pair(n)[..., 3] > 0) != DIAMOND).any():
+        if ((pair(n, s)[..., 3] > 0) != DIAMOND[s]).any():
             yield 'pair %02d is not exactly a diamond' % n
     for n in (12, 27, 59, 60, 61):
-        if not (pair(n)[32:, :, 3] > 0)[DIAMOND].all():
+        if not (pair(n, s)[32 * s:, :, 3] > 0)[DIAMOND[s]].all():
             yield 'pair %02d leaves holes in its cell' % n
 
 
-def footprints():
+def footprints(s):
     """Pieces of one drawing: no pixel twice, the whole footprint covered, none
-    below it, and the odd boxes lose nothing in a 64 x 32 box."""
-    whole = np.zeros((96, 128), bool)
-    whole[32:] = diamond_mask(2)
+    below it, and the odd boxes lose nothing in a 64 x 32 box (but for two
+    pixels at the right tip of either at scale 2)."""
+    whole = np.zeros((96 * s, 128 * s), bool)
+    whole[32 * s:] = diamond_mask(2, s)
     for name, (_, kind, _, numbers) in buildings.DRAWINGS.items():
         if len(numbers) == 1:
             continue
-        count = np.zeros((160, 256), int)
+        count = np.zeros((160 * s, 256 * s), int)
         for n, (key, (px, py), tall) in zip(numbers, {'tall': PIECES_TALL, 'apt': PIECES_APT, 'flat': PIECES_FLAT}[kind]):
-            p = pair(n)
-            if n in buildings.ODD_BOX and p[32:, :, 3].any():
+            p = pair(n, s)
+            if n in buildings.ODD_BOX and p[32 * s:, :, 3].any():
                 yield 'pair %02d has pixels in the row that is never drawn' % n
-            if p.shape[0] == 64 and not tall or p.shape[0] < 64 and tall:
+            if (p.shape[0] == 64 * s) != tall:
                 yield 'pair %02d has the wrong height for its place' % n
-            p = p[:64 if tall else 32] if n in buildings.ODD_BOX else p
-            count[py:py + p.shape[0], px:px + p.shape[1]] += p[..., 3] > 0
+            count[py * s:py * s + p.shape[0], px * s:px * s + p.shape[1]] += p[..., 3] > 0
         if (count > 1).any():
             yield '%s: %d pixels drawn by two pieces' % (name, (count > 1).sum())
-        if (count[:96, :128][whole] == 0).any():
-            yield '%s: %d pixels of the footprint left open' % (name, (count[:96, :128][whole] == 0).sum())
-        under = ~whole[32:]
-        under[:32] = False
-        if count[96:].any() or count[32:96, :128][under].any():
+        holes = (box(count, 0, 0, 128, 96, s)[whole] == 0).sum()
+        if holes > (4 * (s - 1) if kind == 'apt' else 0):
+            yield '%s: %d pixels of the footprint left open' % (name, holes)
+        under = ~whole
+        under[:64 * s] = False
+        if count[96 * s:].any() or box(count, 0, 0, 128, 96, s)[under].any():
             yield '%s draws below its footprint' % name
 
 
-def endless(n, along, w, h, x0, y0):
+def endless(n, along, w, h, x0, y0, s):
     """Block of the straight road picture n repeated along and across, as read
     back from its file."""
-    t = pair(n)
-    out = np.zeros((h, w, 4), np.uint8)
+    t = pair(n, s)
+    out = np.zeros((h * s, w * s, 4), np.uint8)
     for k in range(-4, 5):
         for j in range(-1, 2):
             a, b = (k, j) if along == 'x' else (j, k)
-            blit(out, t, 32 * (a - b) - x0, 16 * (a + b) - y0)
+            blit(out, t, s * (32 * (a - b) - x0), s * (16 * (a + b) - y0))
     return out
 
 
-def stripes():
+def stripes(s):
     """The straight roads do not change under a walker's step; patches are
     pieces of them at every step; frames keep the road free on every side."""
     for n, along, patch, (x, y), (dx, dy) in ((1, 'y', 56, (20, 6), (2, -1)), (2, 'x', 57, (24, 2), (2, 1))):
-        here = endless(n, along, 64, 32, 0, 0)
-        moved = endless(n, along, 64, 32, dx, dy)
-        if (here != moved)[DIAMOND].any():
+        here = endless(n, along, 64, 32, 0, 0, s)
+        moved = endless(n, along, 64, 32, dx, dy, s)
+        if (here != moved)[DIAMOND[s]].any():
             yield 'picture %d changes under its step' % n
-        want = tile(patch)
+        want = tile(patch, s)
         for k in range(-16, 17):
-            if (endless(n, along, 12, 17, x + k * dx, y + k * dy) != want).any():
+            if (endless(n, along, 12, 17, x + k * dx, y + k * dy, s) != want).any():
                 yield 'patch %d does not match picture %d at step %d' % (patch, n, k)
                 break
         for person, heading, road, frames in walkers.WALKS.values():
             if road != along:
                 continue
             for f in frames:
-                a = tile(f)
-                if (a != want)[~walkers.CLEAR].any():
+                a = tile(f, s)
+                if (a != want)[~walkers.free(s)].any():
                     yield 'frame %d: no free road around the figure' % f
-                if (a != want).any(-1).sum() < 40:
+                if (a != want).any(-1).sum() < 40 * s * s:
                     yield 'frame %d shows nobody' % f
 
 
-def trail():
+def trail(s):
     """Walks every direction over a straight road with the next frame at each
     step and the patch at the end: nothing of the figure may stay."""
     steps = {0: (2, -1), 1: (-2, 1), 2: (2, 1), 3: (-2, -1)}
     for d, (_, _, along, frames) in walkers.WALKS.items():
         n, patch = (1, 56) if along == 'y' else (2, 57)
-        clean = endless(n, along, 96, 80, -16, -24)
+        clean = endless(n, along, 96, 80, -16, -24, s)
         road = clean.copy()
         x, y = (36, 30) if along == 'y' else (40, 26)
         dx, dy = steps[d]
         for k in range(-6, 7):
-            blit(road, tile(list(frames)[k % len(frames)]), x + k * dx, y + k * dy)
-        blit(road, tile(patch), x + 6 * dx, y + 6 * dy)
+            blit(road, tile(list(frames)[k % len(frames)], s), s * (x + k * dx), s * (y + k * dy))
+        blit(road, tile(patch, s), s * (x + 6 * dx), s * (y + 6 * dy))
         if (road != clean).any():
             yield 'direction %d leaves %d pixels on the road' % (d, (road != clean).any(-1).sum())
 
 
-def joints():
+def joints(s):
     """Every road picture shows, at the edge of each of its arms, the pixels of
     the straight road; and the bit of the next cell that a walker's block
     reaches at its last step is straight road as well."""
     arms = {37: ('y-', 'x-', 'x+', 'y+'), 49: ('y-', 'x-'), 50: ('y-', 'x+'), 51: ('x-', 'y+'), 52: ('x+', 'y+')}
-    u, v = cell_uv()
+    u, v = cell_uv(s=s)
     for n, sides in arms.items():
-        a = pair(n)[..., :3].astype(int)
+        a = pair(n, s)[..., :3].astype(int)
         for side in sides:
-            ref = pair(1 if side[0] == 'y' else 2)[..., :3].astype(int)
-            rim = DIAMOND & ({'y-': v, 'y+': 1 - v, 'x-': u, 'x+': 1 - u}[side] < .035)
+            ref = pair(1 if side[0] == 'y' else 2, s)[..., :3].astype(int)
+            rim = DIAMOND[s] & ({'y-': v, 'y+': 1 - v, 'x-': u, 'x+': 1 - u}[side] < .035)
             across = u if side[0] == 'y' else v
             kerb = rim & ((across < .16) | (across > .84))
             if np.abs(a - ref)[kerb].max() > 24:
                 yield 'picture %d: kerb broken at %s (%d)' % (n, side, np.abs(a - ref)[kerb].max())
         if 'x+' in sides:
             # a block of direction 3 at (22, 1) of the next cell along x
-            reach = np.zeros((32, 64), bool)
-            x, y = 22 + 32, 1 + 16
-            reach[y:y + 15, x:] = True
-            reach &= DIAMOND
-            bad = (pair(n) != pair(2))[reach].any(-1).sum()
+            reach = np.zeros((32 * s, 64 * s), bool)
+            box(reach, 22 + 32, 1 + 16, 10, 15, s)[:] = True
+            reach &= DIAMOND[s]
+            bad = (pair(n, s) != pair(2, s))[reach].any(-1).sum()
             if bad:
                 yield 'picture %d: a walker would leave %d pixels' % (n, bad)
 
 
-def colours():
+def colours(s):
     for n, colour in views.LEGEND.items():
-        p = pair(n)
-        if tuple(p[16, 32, :3]) != colour:
+        p = pair(n, s)
+        if tuple(p[16 * s, 32 * s, :3]) != colour:
             yield 'pair %d has not the colour of the legend' % n
-        seen = {tuple(c) for c in p[DIAMOND][:, :3]}
+        seen = {tuple(c) for c in p[DIAMOND[s]][:, :3]}
         if seen != {colour, views.OUTLINE}:
             yield 'pair %d has other colours: %s' % (n, seen)
-        if tuple(p[0, 31, :3]) != views.OUTLINE or tuple(p[15, 1, :3]) != views.OUTLINE:
+        if tuple(p[0, 32 * s - 1, :3]) != views.OUTLINE or tuple(p[16 * s - 1, 1, :3]) != views.OUTLINE:
             yield 'pair %d has no outline' % n
-    if pair(20)[DIAMOND][:, :3].any():
+    if pair(20, s)[DIAMOND[s]][:, :3].any():
         yield 'pair 20 does not blacken'
 
 
-def fields():
+def fields(s):
     """Told apart by colour alone: bare and dark, green, light straw."""
-    mean = {n: pair(n)[DIAMOND][:, :3].mean(0) for n in (13, 54, 55, 0)}
+    mean = {n: pair(n, s)[DIAMOND[s]][:, :3].mean(0) for n in (13, 54, 55, 0)}
     luma = {n: float(m @ [.299, .587, .114]) for n, m in mean.items()}
     if not luma[13] + 30 < luma[54] < luma[55] - 25:
         yield 'field stages do not brighten: %s' % luma
@@ -184,14 +183,27 @@ def fields():
         yield 'field stages have wrong hues: %s' % mean
 
 
+def finer(s):
+    """No picture of scale 2 is its small one enlarged, whatever the filter."""
+    small, large = SIZES.keys() - {20}, 'pair/%02d'
+    for name in [large % n for n in sorted(small)] + ['tile/%02d' % n for n in BLOCKS] + LARGE:
+        a = Image.open(path(name)).convert('RGB')
+        b = np.asarray(Image.open(path(name, 2)).convert('RGB'), int)
+        size = b.shape[1::-1]
+        for how in (Image.NEAREST, Image.BILINEAR, Image.BICUBIC, Image.LANCZOS):
+            if np.abs(np.asarray(a.resize(size, how), int) - b).mean() < .25:
+                yield '%s is the small one enlarged' % name
+
+
 CHECKS = [formats, diamonds, footprints, stripes, trail, joints, colours, fields]
+LARGE = ['mask/48', 'tile/48', 'tile/62', 'mask/53', 'tile/53', 'mask/22', 'panel/menu']
 
 
 def main():
-    wrong = [line for check in CHECKS for line in check()]
+    wrong = ['%dx: %s' % (s, line) for s in SCALES for check in CHECKS for line in check(s)] + list(finer(2))
     for line in wrong:
         print('wrong: ' + line)
-    print('check: %d checks, %d faults' % (len(CHECKS), len(wrong)))
+    print('check: %d checks at %d scales, %d faults' % (len(CHECKS) + 1, len(SCALES), len(wrong)))
     return 1 if wrong else 0
 
 

@@ -4,7 +4,6 @@ where the map shows, agreement where pictures overlap, contrast under captions.
 Exit status 1 if anything fails."""
 import struct
 import sys
-import time
 from land import *
 
 PANELS = {'Image3': (623, 37), 'Image2': (141, 157), 'Image7': (145, 34), 'Image11': (145, 80), 'Image10': (145, 55), 'Image9': (145, 34),
@@ -21,8 +20,8 @@ def check(ok, what):
         failed.append(what)
 
 
-def chunks(name):
-    with open(path(name), 'rb') as f:
+def chunks(name, s):
+    with open(path(name, s), 'rb') as f:
         data = f.read()
     pos, out = 8, []
     while pos < len(data):
@@ -32,11 +31,11 @@ def chunks(name):
     return out
 
 
-def plain(name, size, colour=2):
+def plain(name, size, colour=2, s=1):
     """8 bit, the right colour type, not interlaced, and no chunk beside the picture."""
-    c = chunks(name)
+    c = chunks(name, s)
     w, h, depth, kind, _, _, lace = struct.unpack('>IIBBBBB', c[0][1])
-    return (w, h) == size and depth == 8 and kind == colour and lace == 0 and {k for k, _ in c} == {b'IHDR', b'IDAT', b'IEND'}
+    return (w, h) == (size[0] * s, size[1] * s) and depth == 8 and kind == colour and lace == 0 and {k for k, _ in c} == {b'IHDR', b'IDAT', b'IEND'}
 
 
 def luminance(a):
@@ -55,43 +54,48 @@ def strays(a):
     return int((m & (near == 0)).sum())
 
 
-def main():
-    bad = [n for n, s in SIZES.items() if not plain(n, s)] + ['panel/' + n for n, s in PANELS.items() if not plain('panel/' + n, s)]
-    if not plain('icon', (64, 64), 6):
-        bad.append('icon')
-    check(not bad, 'size and format of all pictures %s' % ' '.join(bad))
+def pictures(s):
+    bad = [n for n, size in SIZES.items() if not plain(n, size, s=s)]
+    bad += ['panel/' + n for n, size in PANELS.items() if not plain('panel/' + n, size, s=s)]
+    check(not bad, '%dx: size and format of all pictures %s' % (s, ' '.join(bad)))
     groups = {'missions 1 to 3': (18, [('mask/48',) + BAND[:2]]), 'missions 4 to 6': (22, [('tile/48',) + COAST[:2]] + DIAMONDS),
               'missions 9 and 10': (12, [('tile/62',) + CASTLE[:2]])}
     for what, (size, blits) in groups.items():
-        inside, over, clash, count = square(size), 0, 0, 0
-        surface = np.zeros(SURFACE + (3,), np.uint8)
+        what = '%dx, %s' % (s, what)
+        inside, over, clash, count = square(size, s), 0, 0, 0
+        surface = np.zeros(inside.shape + (3,), np.uint8)
         for n, x, y in blits:
-            a = load_rgb(n)
-            h, w = a.shape[:2]
-            over += int((a.any(-1) & inside[y:y + h, x:x + w]).sum())
-            s = surface[y:y + h, x:x + w]
-            both = a.any(-1) & s.any(-1)
+            a = load_rgb(n, s)
+            part = x, y, a.shape[1] // s, a.shape[0] // s, s
+            over += int((a.any(-1) & box(inside, *part)).sum())
+            there = box(surface, *part)
+            both = a.any(-1) & there.any(-1)
             count += int(both.sum())
-            clash += int((a != s)[both].any(-1).sum())
-            s |= a
+            clash += int((a != there)[both].any(-1).sum())
+            there |= a
         check(over == 0, '%s: %d coloured pixels on playable cells' % (what, over))
         check(clash == 0, '%s: %d of %d overlapping pixels differ' % (what, clash, count))
-        near = np.zeros(SURFACE, bool)              # the void right behind the back edges
-        near[:-6] = inside[6:]
+        near = np.zeros(inside.shape, bool)         # the void right behind the back edges
+        near[:-6 * s] = inside[6 * s:]
         near &= ~inside
-        near[528:] = False
+        near[528 * s:] = False
         bare = int((near & ~surface.any(-1)).sum())
         check(bare == 0, '%s: %d black pixels between the backdrop and the back edges' % (what, bare))
         check(strays(surface) == 0, '%s: %d stray pixels' % (what, strays(surface)))
     for n in PANELS:
         if n not in NO_CAPTION:
-            c = contrast(load_rgb('panel/' + n))
-            check(c >= 7, 'panel/%s: black text at %.2f to 1 at the worst pixel' % (n, c))
-    t, raw = time.time(), 0
-    for n in list(SIZES) + ['panel/' + p for p in PANELS]:
-        raw += load_rgb(n).nbytes
-    print('decoded in %.0f ms, %.1f MB, files %.1f MB' % ((time.time() - t) * 1e3, raw / 1e6,
-          sum(os.path.getsize(path(n)) for n in list(SIZES) + ['panel/' + p for p in PANELS]) / 1e6))
+            c = contrast(load_rgb('panel/' + n, s))
+            check(c >= 7, '%dx, panel/%s: black text at %.2f to 1 at the worst pixel' % (s, n, c))
+    raw = sum(load_rgb(n, s).nbytes for n in list(SIZES) + ['panel/' + p for p in PANELS])
+    print('%dx: %.1f MB of pixels' % (s, raw / 1e6))
+
+
+def main():
+    for s in SCALES:
+        pictures(s)
+    check(plain('icon', (64, 64), 6), 'size and format of the icon')
+    total = sum(os.path.getsize(os.path.join(d, f)) for d, _, names in os.walk(DATA) for f in names) / 2 ** 20
+    check(total < 16, 'all files %.1f MB' % total)
     print('%d failed' % len(failed) if failed else 'all good')
     return 1 if failed else 0
 

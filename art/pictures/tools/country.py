@@ -311,9 +311,9 @@ def band():
     w.Z = np.where(rim < 0, w.Z + 3.0 * np.clip(rim, -2, 0), w.Z).astype(np.float32)
     w.write()
     X0, Y0, W, H = BAND
-    img, _ = shot('country', W, H, 992 - X0, 32 - Y0, 3, 14)
-    img[crop(square(18), *BAND)] = 0
-    save_rgb('mask/48', img)
+    for s, img in shot('country', W, H, 992 - X0, 32 - Y0, 4, 14).items():
+        img[box(square(18, s), *BAND, s)] = 0
+        save_rgb('mask/48', img, s)
 
 
 P = 3.8125                                      # the water pictures repeat every P cells along y
@@ -464,55 +464,60 @@ def coast(harbour=False):
 
 def water_pictures():
     """One landscape, cut into the river pictures and the countryside to the right."""
-    coast()
     X0, Y0, W, H = 577 - 8, 11, 1992 - 569, 520         # from the third water picture to the right end
-    img, _ = shot('country', W, H, 992 - X0, 32 - Y0, 3, 14)
-    at = lambda x, y, w, h: img[y - Y0:y - Y0 + h, x - X0:x - X0 + w]
+    x0, y0 = 455 - 8, 202 - 8                           # about the landing place
+    coast()
+    whole = shot('country', W, H, 992 - X0, 32 - Y0, 4, 14)
+    coast(True)
+    landing = shot('country', 288 + 16, 144 + 16, 992 - x0, 32 - y0, 4, 14)
+    for s in SCALES:
+        cut_water(whole[s], X0, Y0, landing[s], x0, y0, s)
+
+
+def cut_water(img, X0, Y0, img2, x0, y0, s):
+    at = lambda x, y, w, h: box(img, x - X0, y - Y0, w, h, s)
     # what repeats: the columns 699..820 of the second picture, moved by steps
     px, py, ww, hh = 333, -100, 900, 700
-    y, x = np.mgrid[py:py + hh, px:px + ww]
-    k = np.floor_divide(x - 699, 122)
-    sx, sy = x - 122 * k, y + 61 * k
-    ok = (sy >= Y0) & (sy < Y0 + H)
-    strip = np.where(ok[..., None], img[np.clip(sy - Y0, 0, H - 1), sx - X0], 0)
-    per = lambda x, y: strip[y - py:y - py + 144, x - px:x - px + 288]
-    inside = square(22)
+    y, x = np.mgrid[py * s:(py + hh) * s, px * s:(px + ww) * s]
+    k = np.floor_divide(x - 699 * s, 122 * s)
+    sx, sy = x - 122 * s * k, y + 61 * s * k - Y0 * s
+    ok = (sy >= 0) & (sy < len(img))
+    strip = np.where(ok[..., None], img[np.clip(sy, 0, len(img) - 1), sx - X0 * s], 0)
+    per = lambda x, y: box(strip, x - px, y - py, 288, 144, s)
+    inside = square(22, s)
 
     def cells(x, y):
-        u, v = cell_xy(x, y, 288, 144)
+        u, v = cell_xy(x, y, 288, 144, s)
         return u, v - Y1 - P * round((821 - x) / 122)
     # the water picture that repeats: one slice of the river
     u, v = cells(699, 80)
-    free = ~crop(inside, 699, 80, 288, 144)
+    free = ~box(inside, 699, 80, 288, 144, s)
     # The last one ends with the map, its water in a wavy line.  The others are
     # whole all the same, since their neighbours begin before that.
     swell = .09 * np.sin(4.1 * u + .9) + .045 * np.sin(8.7 * u + 2.1)
     last = 27 - Y1 - 6 * P + swell * smooth(-.5, .0, u) * smooth(3.05, 2.4, u)
     plain = np.where(((v > 0) & (v < last) & free)[..., None], per(699, 80), 0)
-    save_rgb('mask/53', plain)
+    save_rgb('mask/53', plain, s)
     # the first one: the bend; its lower tip is as in the others
     u, v = cells(821, 19)
-    free = ~crop(inside, 821, 19, 288, 144)
+    free = ~box(inside, 821, 19, 288, 144, s)
     shape = (v < 4.5) & free
     bendp = np.where((v < P)[..., None], at(821, 19, 288, 144), per(821, 19))
     bendp = np.where(shape[..., None], bendp, 0)
-    save_rgb('tile/53', bendp)
-    own = np.zeros(SURFACE, bool)
-    own[19:163, 821:1109] = load_rgb('tile/53').any(-1)
-    own[80:224, 699:987] |= plain.any(-1)
+    save_rgb('tile/53', bendp, s)
+    own = np.zeros(inside.shape, bool)
+    box(own, 821, 19, 288, 144, s)[:] = load_rgb('tile/53', s).any(-1)
+    box(own, 699, 80, 288, 144, s)[:] |= plain.any(-1)
     c = at(*COAST).copy()
-    u, _ = cell_xy(*COAST)
-    c[crop(inside, *COAST) | crop(own, *COAST) | (u > 27)] = 0
-    save_rgb('tile/48', c)
+    u, _ = cell_xy(*COAST, s)
+    c[box(inside, *COAST, s) | box(own, *COAST, s) | (u > 27)] = 0
+    save_rgb('tile/48', c, s)
     # the landing place
-    coast(True)
-    x0, y0 = 455, 202
-    img2, _ = shot('country', 288 + 16, 144 + 16, 992 - x0 + 8, 32 - y0 + 8, 3, 14)
-    u, v = cells(x0, y0)
-    free = ~crop(inside, x0, y0, 288, 144)
+    u, v = cells(455, 202)
+    free = ~box(inside, 455, 202, 288, 144, s)
     own = (v > 4.5 - P) & (v < P)
-    p = np.where(own[..., None], img2[8:152, 8:296], per(x0, y0))
-    save_rgb('mask/22', np.where(((v > 0) & (v < 4.5) & free)[..., None], p, 0))
+    p = np.where(own[..., None], box(img2, 455 - x0, 202 - y0, 288, 144, s), per(455, 202))
+    save_rgb('mask/22', np.where(((v > 0) & (v < 4.5) & free)[..., None], p, 0), s)
 
 
 def ripple(w, mask, seed, n, size=(.10, .34), bright=.5):

@@ -7,17 +7,17 @@ from iso import *
 GRASS = [rgb(c) for c in ('4f752a', '5c8432', '6a933b', '78a146', '8aaf54', '9fbf66')]
 
 
-def wrap(px, py):
+def wrap(px, py, s):
     """A pixel of the box, shifted by whole cells into the cell's diamond."""
-    u = ((px - 31.5) / 32 + (py + .5) / 16) / 2
-    v = ((py + .5) / 16 - (px - 31.5) / 32) / 2
+    u = (((px + .5) / s - 32) / 32 + (py + .5) / s / 16) / 2
+    v = ((py + .5) / s / 16 - ((px + .5) / s - 32) / 32) / 2
     u, v = u - np.floor(u), v - np.floor(v)
-    return (int(np.floor(32 * (u - v) + 32)), int(np.floor(16 * (u + v))))
+    return (int(np.floor(s * (32 * (u - v) + 32))), int(np.floor(s * 16 * (u + v))))
 
 
-def torus_noise(n, seed):
+def torus_noise(n, seed, s):
     """Smooth noise over one cell, period one cell, n knots per side, 0..1."""
-    u, v = cell_uv()
+    u, v = cell_uv(s=s)
     g = np.random.RandomState(seed).rand(n, n)
     a, b = u * n, v * n
     i, j = np.floor(a).astype(int), np.floor(b).astype(int)
@@ -39,40 +39,43 @@ class Meadow:
     again: a map repeats the cell a thousand times, and a cluster of blades
     would show as a pattern."""
 
-    def __init__(self, seed, tufts, tone=0.0, mottle=.5):
+    def __init__(self, s, seed, tufts, tone=0.0, mottle=.5):
         """tone: how much lighter and yellower than the middle of the ramp;
         towards the rim the pixels of that tone thin out, so that two tones
         melt into one another."""
         self.r = r = np.random.RandomState(seed)
-        u, v = cell_uv()
+        self.s, h, w = s, 32 * s, 64 * s
+        u, v = cell_uv(s=s)
         edge = np.minimum(np.minimum(u, 1 - u), np.minimum(v, 1 - v))
         rim = np.clip(edge / .3, 0, 1)
-        mot = torus_noise(4, seed + 50) * .65 + torus_noise(9, seed + 60) * .35 - .5
-        self.tone = tone * (r.rand(32, 64) < .5 + .5 * np.clip(edge / .24, 0, 1))
-        self.t = 2.4 + r.randn(32, 64) * .20
-        for _ in range(tufts):                   # little blades
-            self.blade(r.randint(0, 64), r.randint(0, 32))
+        mot = torus_noise(4, seed + 50, s) * .65 + torus_noise(9, seed + 60, s) * .35 - .5
+        self.tone = tone * (r.rand(h, w) < .5 + .5 * np.clip(edge / .24, 0, 1))
+        self.t = 2.4 + r.randn(h, w) * .20
+        for _ in range(tufts * s):               # little blades, longer at scale 2
+            self.blade(r.randint(0, w), r.randint(0, h))
         self.level()
         self.t += mottle * mot * rim + self.tone
 
     def blade(self, x, y):
         r = self.r
         top = 2.4 + r.uniform(.15, .65)
-        self.put(x, y, top)
+        for k in range(self.s):
+            self.put(x, y - k, top + .1 * k)
         self.put(x, y + 1, top - .45)
         if r.rand() < .6:
             self.put(x + r.choice([-1, 1]), y + 1, top - .2)
         self.put(x + 1, y + 2, 1.95 + r.rand() * .25)     # its shade, lower right
 
     def put(self, px, py, val):
-        x, y = wrap(px, py)
+        x, y = wrap(px, py, self.s)
         self.t[y, x] = val
 
     def level(self):
         """Take the coarse part out, as of the cell repeated for ever."""
-        at = np.array([[wrap(x, y) for x in range(64)] for y in range(32)])
+        h, w = self.t.shape
+        at = np.array([[wrap(x, y, self.s) for x in range(w)] for y in range(h)])
         endless = self.t[at[..., 1], at[..., 0]]         # the box holds two cells
-        coarse = blur(np.pad(endless, 8, 'wrap'), 2.5)[8:-8, 8:-8]
+        coarse = blur(np.pad(endless, 16, 'wrap'), 2.5 * self.s)[16:-16, 16:-16]
         self.t += endless.mean() - coarse
 
     def colours(self):
@@ -85,20 +88,21 @@ class Meadow:
         return self
 
     def done(self):
-        return rgba(self.img, diamond_mask())
+        return rgba(self.img, diamond_mask(1, self.s))
 
 
-def plain():
-    return Meadow(11, 55, tone=0., mottle=.35).colours().done()
+def plain(s):
+    return Meadow(s, 11, 55, tone=0., mottle=.35).colours().done()
 
 
-def clover():
-    return Meadow(12, 60, tone=.12, mottle=.15).colours().done()
+def clover(s):
+    return Meadow(s, 12, 60, tone=.12, mottle=.15).colours().done()
 
 
 def render():
-    save_pair(0, plain())
-    save_pair(28, clover())
-    high = np.zeros((64, 64, 4), np.uint8)
-    high[32:] = plain()
-    save_pair(27, high)
+    for s in SCALES:
+        save_pair(0, plain(s), s)
+        save_pair(28, clover(s), s)
+        high = np.zeros((64 * s, 64 * s, 4), np.uint8)
+        high[32 * s:] = plain(s)
+        save_pair(27, high, s)

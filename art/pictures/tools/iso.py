@@ -7,33 +7,38 @@ picture is 64 x 64 and its lower half is the flat box.
 
 Colours are float arrays (H, W, 3), linear light or sRGB as the name says;
 finished pictures are uint8 arrays (H, W, 4) with alpha 0 or 255, and pixels
-of alpha 0 are (0, 0, 0)."""
+of alpha 0 are (0, 0, 0).
+
+Every picture exists at the scales 1 and 2.  Sizes and places are given in the
+units of scale 1; what is painted to the pixel takes the scale s and paints
+with as many pixels more."""
 import os
 import numpy as np
 from PIL import Image
 
 TW, TH = 64, 32
+SCALES = (1, 2)
 ROOT = os.path.normpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), '../../..'))
-PAIR = os.path.join(ROOT, 'data/pictures/pair')      # pictures with transparency
-TILE = os.path.join(ROOT, 'data/pictures/tile')      # opaque blocks
+DATA = os.path.join(ROOT, 'data/pictures')
 
 
 # --------------------------------------------------------------- diamonds
-def diamond_mask(n=1):
+def diamond_mask(n=1, s=1):
     """Pixels of an n x n cell footprint (64n x 32n).  A pixel belongs when its
     centre is inside the ideal diamond; no centre ever lies on the edge, so
-    the masks of neighbours partition the plane: 1024 pixels a cell."""
-    h, w = TH * n, TW * n
+    the masks of neighbours partition the plane: 1024 pixels a cell, at twice
+    the size 4096."""
+    h, w = TH * n * s, TW * n * s
     y, x = np.mgrid[0:h, 0:w]
     return np.abs(x + .5 - w / 2) / (w / 2) + np.abs(y + .5 - h / 2) / (h / 2) < 1
 
 
-def cell_uv(w=TW, h=TH, ox=32, oy=0, dx=.5, dy=.5):
+def cell_uv(w=TW, h=TH, ox=32, oy=0, dx=.5, dy=.5, s=1):
     """Cell coordinates (u along map x, v along map y) of every pixel, taken at
     (dx, dy) inside the pixel."""
-    y, x = np.mgrid[0:h, 0:w]
-    a = (x + dx - ox) / 32
-    b = (y + dy - oy) / 16
+    y, x = np.mgrid[0:h * s, 0:w * s]
+    a = ((x + dx) / s - ox) / 32
+    b = ((y + dy) / s - oy) / 16
     return (a + b) / 2, (b - a) / 2
 
 
@@ -67,20 +72,25 @@ def load(path):
     return np.array(Image.open(path).convert('RGBA'))
 
 
-def save_pair(n, img):
-    save('%s/%02d.png' % (PAIR, n), img)
+def path(name, s=1):
+    """The file of a picture, say 'pair/07' (with transparency) or 'tile/22' (opaque)."""
+    return os.path.join(DATA, '2x' if s == 2 else '', name + '.png')
 
 
-def save_tile(n, img):
-    save('%s/%02d.png' % (TILE, n), img[..., :3])
+def save_pair(n, img, s=1):
+    save(path('pair/%02d' % n, s), img)
 
 
-def pair(n):
-    return load('%s/%02d.png' % (PAIR, n))
+def save_tile(n, img, s=1):
+    save(path('tile/%02d' % n, s), img[..., :3])
 
 
-def tile(n):
-    return load('%s/%02d.png' % (TILE, n))
+def pair(n, s=1):
+    return load(path('pair/%02d' % n, s))
+
+
+def tile(n, s=1):
+    return load(path('tile/%02d' % n, s))
 
 
 def rgba(srgb, mask):
@@ -103,25 +113,28 @@ PIECES_FLAT = [('n', (32, 32), False), ('e', (64, 48), False),
                ('w', (0, 48), False), ('s', (32, 64), False)]
 
 
-def cut(canvas, table):
+def box(a, x, y, w, h, s=1):
+    """The pixels of a box given in units of scale 1."""
+    return a[y * s:(y + h) * s, x * s:(x + w) * s]
+
+
+def cut(canvas, table, s=1):
     """Cut one 128 x 96 drawing into its pieces, each pixel into exactly one:
     the cell whose diamond holds it, and above the footprint the first piece
     (back to front) whose box reaches it.  Returns {name: picture}."""
     owner = np.full(canvas.shape[:2], -1)
-    d = diamond_mask()
+    d = diamond_mask(1, s)
     for k, (_, (px, py), tall) in enumerate(table):
-        fy = py + (32 if tall else 0)
-        sub = owner[fy:fy + 32, px:px + 64]
-        sub[d] = k
+        box(owner, px, py + (32 if tall else 0), 64, 32, s)[d] = k
     for k, (_, (px, py), tall) in enumerate(table):
         if tall:
-            sub = owner[py:py + 64, px:px + 64]
+            sub = box(owner, px, py, 64, 64, s)
             sub[sub < 0] = k
     out = {}
     for k, (name, (px, py), tall) in enumerate(table):
         h = 64 if tall else 32
-        piece = canvas[py:py + h, px:px + 64].copy()
-        piece[owner[py:py + h, px:px + 64] != k] = 0
+        piece = box(canvas, px, py, 64, h, s).copy()
+        piece[box(owner, px, py, 64, h, s) != k] = 0
         out[name] = piece
     lost = (canvas[..., 3] > 0) & (owner < 0)
     if lost.any():

@@ -2,14 +2,13 @@
 
 The surface is 1984 x 1056; the north corner of cell (x, y) lies at
 (992 + 32 (x - y), 32 + 16 (x + y)).  Backdrops are ORed over the void, so every
-pixel of a playable cell must meet black."""
+pixel of a playable cell must meet black.  At scale 2 all of that is doubled."""
 import os
 import numpy as np
 from PIL import Image
 from iso import *
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-DATA = os.path.join(HERE, '../../../data/pictures')
 SURFACE = (1056, 1984)
 BAND, COAST, CASTLE, WATER = (73, 29, 1800, 500), (983, 67, 1000, 460), (508, 254, 965, 293), (288, 144)
 # the seven water pictures, in the order in which they are painted
@@ -18,40 +17,28 @@ DIAMONDS = [('mask/22', 455, 202), ('tile/53', 821, 19), ('mask/53', 699, 80), (
 STEP = (122, -61)                   # the water repeats under this step
 
 
-def cell_xy(x0, y0, w, h, sub=1):
+def cell_xy(x0, y0, w, h, s=1):
     """Cell coordinates of the pixel centres of a box of the surface."""
-    y, x = np.mgrid[0:h * sub, 0:w * sub]
-    a = (x0 + (x + .5) / sub - 992) / 32
-    b = (y0 + (y + .5) / sub - 32) / 16
-    return (a + b) / 2, (b - a) / 2
+    return cell_uv(w, h, 992 - x0, 32 - y0, s=s)
 
 
-def square(size):
+def square(size, s=1):
     """Surface pixels of the playable cells of a map of this size."""
-    s = np.zeros(SURFACE, bool)
-    d, m = diamond_mask(), (30 - size) // 2
+    out = np.zeros((SURFACE[0] * s, SURFACE[1] * s), bool)
+    d, m = diamond_mask(1, s), (30 - size) // 2
     for y in range(m, m + size + 1):
         for x in range(m, m + size + 1):
-            X, Y = 32 * (x - y) + 960, 16 * (x + y) + 32
-            s[Y:Y + 32, X:X + 64] |= d
-    return s
+            box(out, 32 * (x - y) + 960, 16 * (x + y) + 32, 64, 32, s)[:] |= d
+    return out
 
 
-def crop(a, x, y, w, h):
-    return a[y:y + h, x:x + w]
-
-
-def path(name):
-    return os.path.join(DATA, name + '.png')
-
-
-def save_rgb(name, img):
-    """Write data/pictures/NAME.png, 8 bit RGB."""
+def save_rgb(name, img, s=1):
+    """Write data/pictures/NAME.png or data/pictures/2x/NAME.png, 8 bit RGB."""
     if img.dtype != np.uint8:
         img = np.round(np.clip(img, 0, 1) * 255).astype(np.uint8)
-    os.makedirs(os.path.dirname(path(name)), exist_ok=True)
-    Image.fromarray(np.ascontiguousarray(img[..., :3]), 'RGB').save(path(name), compress_level=9)
+    os.makedirs(os.path.dirname(path(name, s)), exist_ok=True)
+    Image.fromarray(np.ascontiguousarray(img[..., :3]), 'RGB').save(path(name, s), compress_level=9)
 
 
-def load_rgb(name):
-    return np.array(Image.open(path(name)).convert('RGB'))
+def load_rgb(name, s=1):
+    return np.array(Image.open(path(name, s)).convert('RGB'))

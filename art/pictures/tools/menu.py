@@ -166,14 +166,14 @@ def plants(w, sd):
             w.put(('BloomA', 'BloomB', 'BloomC', 'BloomD')[r.randint(4)], x, y, .13 + .09 * r.rand(), 0, .01)
 
 
-def sky():
+def sky(s):
     """Evening light low over blue mountains, and clouds lit from the left."""
-    y, x = np.mgrid[0:H, 0:W] / 1.
+    y, x = np.mgrid[0:H * s, 0:W * s] / s
     t = np.clip(y / 235, 0, 1)
     stops = [(0, '5C8FC8'), (.28, '86AEDA'), (.52, 'B7CBDD'), (.72, 'F0DDB8'), (.88, 'FBDDA2'), (1, 'F8CE90')]
-    img = np.zeros((H, W, 3))
+    img = np.zeros((H * s, W * s, 3))
     for c in range(3):
-        img[..., c] = np.interp(t, [s for s, _ in stops], [hx(h)[c] for _, h in stops])
+        img[..., c] = np.interp(t, [at for at, _ in stops], [hx(h)[c] for _, h in stops])
     glow = np.exp(-((x + 60) / 330) ** 2 - ((y - 190) / 120) ** 2)[..., None]
     img += glow * np.array([.10, .06, -.04])
 
@@ -193,12 +193,12 @@ def sky():
             sx, sy = max(2, sx / 2), max(2, sy / 2)
         return out / tot
     def moved(a, n, m):                                 # by whole pixels, the rim repeated
-        return np.pad(a, ((m, 0), (n, 0)), 'edge')[:H, :W]
+        return np.pad(a, ((m * s, 0), (n * s, 0)), 'edge')[:H * s, :W * s]
     for sx, sy, seed, level, y0, y1, strength in ((380, 26, 5, .56, 60, 225, .65), (250, 105, 17, .525, -40, 190, 1.)):
         d = field(sx, sy, seed, 7)
         d = d - level - .09 * np.abs((y - (y0 + y1) / 2) / (y1 - y0) * 2) ** 2
         a = smooth(0, .10, d)
-        lit = blur(np.clip(.62 + 4.5 * (d - moved(blur(d, 3), 11, 9)) - 1.5 * smooth(.06, .24, d), 0, 1), .8)[..., None]
+        lit = blur(np.clip(.62 + 4.5 * (d - moved(blur(d, 3 * s), 11, 9)) - 1.5 * smooth(.06, .24, d), 0, 1), .8 * s)[..., None]
         warm = np.clip(y / 200, 0, 1)[..., None]
         top = hx('FFFBF0') * (1 - warm) + hx('FFEBC6') * warm
         low = hx('B4BCD2') * (1 - warm) + hx('E6C0A8') * warm
@@ -206,9 +206,10 @@ def sky():
     r = np.random.RandomState(21)
     for base, amp, rough, colour, light, seed in ((196, 62, 1.0, 'A9B4D2', 'E2CFC6', 31), (208, 46, .9, '8FA3C2', 'C9C4BE', 32), (220, 28, .7, '84A0A8', 'B4BC9E', 33)):
         r = np.random.RandomState(seed)
-        p, xs = np.zeros(W), np.arange(W)
+        xs = np.arange(W * s) / s
+        p = np.zeros(W * s)
         step, a = 150., 1.
-        while step > 2:
+        while step > 2 / s:
             n = int(W / step) + 3
             p += a * np.interp(xs, np.arange(n) * step - r.rand() * step, r.rand(n))
             step, a = step / 2, a * .5 * rough ** .5
@@ -216,9 +217,9 @@ def sky():
         edge = base - amp * p * (.55 + .45 * np.abs(xs - 400) / 400)
         depth = y - edge[None, :]
         # lit as uneven slopes: spurs run out aslant, and none keeps its course downwards
-        lie = blur(field(46, 22, seed + 7, 4) + .35 * field(90, 60, seed + 9, 2), 1.4)
-        s = np.clip(.48 + 5.5 * (lie - moved(lie, 4, 3)), 0, 1)[..., None]
-        c = hx(colour) + (hx(light) - hx(colour)) * s
+        lie = blur(field(46, 22, seed + 7, 4) + .35 * field(90, 60, seed + 9, 2), 1.4 * s)
+        sunny = np.clip(.48 + 5.5 * (lie - moved(lie, 4, 3)), 0, 1)[..., None]
+        c = hx(colour) + (hx(light) - hx(colour)) * sunny
         c = c + (hx('F3D9B0') - c) * np.clip(depth / 70, 0, .65)[..., None]
         img += (c - img) * np.clip(depth + .5, 0, 1)[..., None]
     return np.clip(img, 0, 1)
@@ -228,7 +229,7 @@ def main():
     fine, country.R = country.R, 20             # a wider land, fewer points a unit
     land()
     country.R = fine
-    ss, dome = (2, 5) if DRAFT else (3, 12)
+    ss, dome = (2, 5) if DRAFT else (4, 12)
     t = time.time()
     b = povray('menu', 0, W, H, ss, ['DomeN=%d' % dome]) * 2
     aux = povray('menu', 1, W, H, ss)
@@ -239,12 +240,13 @@ def main():
     b = b * (1 - line[..., None] * .38 * np.exp(-dist / 45)[..., None])
     haze = (1 - np.exp(-(np.clip(dist - 8, 0, None) / 135) ** 1.5))[..., None]
     b = b * (1 - haze) + to_lin(np.array([.84, .80, .76])) * haze
-    cov = box_down(hit, ss)[..., None]
-    col = box_down(b * hit[..., None], ss) / np.maximum(cov, 1e-6)
-    col = grade(col, 1.02, 1.03, 1.12, .48)
-    img = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(sky()))
-    img = unsharp(img, np.ones((H, W), bool), .35, .8)
-    save_rgb('panel/menu', img)
+    for s in SCALES:
+        cov = box_down(hit, ss // s)[..., None]
+        col = box_down(b * hit[..., None], ss // s) / np.maximum(cov, 1e-6)
+        col = grade(col, 1.02, 1.03, 1.12, .48)
+        img = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(sky(s)))
+        img = unsharp(img, np.ones(img.shape[:2], bool), .35, .8)
+        save_rgb('panel/menu', img, s)
     print('menu: %.0f s' % (time.time() - t))
 
 

@@ -1,6 +1,7 @@
 """The plates behind the captions of both screens, the marks of the puzzle list
 and the program's icon.  All painted here, straight into data/pictures/panel.
 
+Places and sizes are units of scale 1; s is the scale that is painted.
 Every plate carries black text, so nothing on one may be darker than DARK."""
 import sys
 from land import *
@@ -12,12 +13,12 @@ PALE = np.array([203, 221, 241]) / 255.         # ground of the menu plates
 GOLD = np.array([226, 194, 122]) / 255.
 
 
-def noise(h, w, cell, seed):
-    """Smooth value noise, -1..1."""
+def noise(h, w, cell, seed, s=1):
+    """Smooth value noise over h x w units, -1..1."""
     r = np.random.RandomState(seed)
     gy, gx = int(h / cell[1]) + 3, int(w / cell[0]) + 3
     g = r.rand(gy, gx) * 2 - 1
-    y, x = np.mgrid[0:h, 0:w]
+    y, x = np.mgrid[0:h * s, 0:w * s] / s
     p, q = x / cell[0], y / cell[1]
     i, j = p.astype(int), q.astype(int)
     f, e = p - i, q - j
@@ -25,9 +26,9 @@ def noise(h, w, cell, seed):
     return (g[j, i] * (1 - f) + g[j, i + 1] * f) * (1 - e) + (g[j + 1, i] * (1 - f) + g[j + 1, i + 1] * f) * e
 
 
-def inset(h, w, r):
+def inset(h, w, r, s=1):
     """Distance of each pixel to the rim of a box with rounded corners."""
-    y, x = np.mgrid[0:h, 0:w] + .5
+    y, x = (np.mgrid[0:h * s, 0:w * s] + .5) / s
     dx, dy = np.minimum(x, w - x), np.minimum(y, h - y)
     d = np.minimum(dx, dy)
     near = (dx < r) & (dy < r)
@@ -44,32 +45,32 @@ def bevel(img, d, at, width, raised=1, amount=.16):
     return img + (lit * raised * slope * amount)[..., None] * [1, .95, .80]
 
 
-def enamel(w, h, base, seed):
+def enamel(w, h, base, seed, s=1):
     """A quiet field: lighter at the top, faintly veined."""
-    y, x = np.mgrid[0:h, 0:w]
-    img = np.empty((h, w, 3))
+    y, x = np.mgrid[0:h * s, 0:w * s] / s
+    img = np.empty((h * s, w * s, 3))
     img[:] = base
     light = .040 - .075 * (y + .20 * x) / (h + .20 * w)
-    vein = np.abs(noise(h, w, (30, 9), seed))
-    silk = .016 * noise(h, w, (48, 16), seed + 2) + .012 * noise(h, w, (13, 5), seed + 1) + .013 * np.exp(-(vein / .10) ** 2)
+    vein = np.abs(noise(h, w, (30, 9), seed, s))
+    silk = .016 * noise(h, w, (48, 16), seed + 2, s) + .012 * noise(h, w, (13, 5), seed + 1, s) + .013 * np.exp(-(vein / .10) ** 2)
     return img + (light + silk)[..., None] * [1, .92, .62]
 
 
 IVORY = np.array([226, 212, 178]) / 255.
 
 
-def plate(w, h, base, seed, r=4, field=None, frame=2.2):
+def plate(w, h, base, seed, s=1, r=4, field=None, frame=2.2):
     """One plate: a rounded frame of pale stone, a gold line, a field of enamel."""
-    d = inset(h, w, r)
-    img = enamel(w, h, base, seed)
+    d = inset(h, w, r, s)
+    img = enamel(w, h, base, seed, s)
     if field is not None:
-        img = field(img, d)
+        img = field(img, s)
     # the field lies deeper than the frame: shade along its upper and left side
-    gy, gx = np.gradient(blur(d, 1.0))
+    gy, gx = np.gradient(blur(d, 1.0 * s))
     side = (gx + gy) / np.maximum(np.hypot(gx, gy), 1e-6) / 1.4142
     drop = np.exp(-np.clip(d - frame - .5, 0, None) / 1.6) * (d > frame)
     img = img - (drop * (.085 * np.clip(side, 0, 1) - .05 * np.clip(-side, 0, 1)))[..., None] * [1, .9, .6]
-    stone = IVORY + (.020 * noise(h, w, (7, 4), seed + 5) + .014 * noise(h, w, (2.2, 2.2), seed + 6))[..., None] * [1, 1, .9]
+    stone = IVORY + (.020 * noise(h, w, (7, 4), seed + 5, s) + .014 * noise(h, w, (2.2, 2.2), seed + 6, s))[..., None] * [1, 1, .9]
     stone = bevel(stone, d, -.3, frame + .2, 1, .150)
     a = np.clip(frame - d + .5, 0, 1)[..., None]
     img = img * (1 - a) + stone * a
@@ -91,24 +92,24 @@ def settle(img, least=.318):
     return img
 
 
-def rule(img, x0, x1, y, strength=1):
+def rule(img, x0, x1, y, s, strength=1):
     """An engraved line: a shade with a light under it, fading at its ends."""
-    n = np.arange(x0, x1)
+    n = np.arange(x0 * s, x1 * s) / s
     e = np.clip(np.minimum(n - x0 + 1, x1 - n) / 14., 0, 1)[:, None] * strength
-    img[y, x0:x1] += e * np.array([-.075, -.065, -.04])
-    img[y + 1, x0:x1] += e * np.array([.09, .075, .035])
+    img[y * s, x0 * s:x1 * s] += e * np.array([-.075, -.065, -.04])
+    img[y * s + 1, x0 * s:x1 * s] += e * np.array([.09, .075, .035])
 
 
-def well(img, x, y, w, h, deep=1, glow=.0, faint=1):
+def well(img, s, x, y, w, h, deep=1, glow=.0, faint=1):
     """A shallow round-cornered hollow or, with deep -1, a raised key."""
-    d = inset(h, w, 4)
-    sub = img[y:y + h, x:x + w]
+    d = inset(h, w, 4, s)
+    sub = box(img, x, y, w, h, s)
     gy, gx = np.gradient(d)
     side = (gx + gy) / np.maximum(np.hypot(gx, gy), 1e-6) / 1.4142
     edge = np.exp(-np.clip(d - .4, 0, None) / 1.1)
     t = np.clip(d, 0, 1)[..., None]
-    v = (np.mgrid[0:h, 0:w][0] / h - .5)
-    body = glow * np.ones((h, w)) - deep * -.035 * v if deep > 0 else .052 - .060 * v
+    v = np.mgrid[0:h * s, 0:w * s][0] / (h * s) - .5
+    body = glow * np.ones(v.shape) - deep * -.035 * v if deep > 0 else .052 - .060 * v
     out = sub + (body - deep * .125 * side * edge)[..., None] * [1, .95, .75]
     rim = np.clip(1 - np.abs(d - .5) / .7, 0, 1)[..., None] * (.55 if deep < 0 else .25)
     out = out * (1 - rim) + np.array([118, 146, 196]) / 255. * rim
@@ -116,54 +117,55 @@ def well(img, x, y, w, h, deep=1, glow=.0, faint=1):
     sub[:] = sub * (1 - t) + out * t
 
 
-def tools_field(img, d):
+def tools_field(img, s):
     """The tool palette: two keys for the mode, a board for the current tool,
     and a key for each of the nine tools.  Both columns of keys are as wide as the
     longest name; the keys of tools that may still be locked are fainter."""
     for x, w in ((4, 66), (76, 66)):
-        well(img, x, 4, w, 19, -1)
+        well(img, s, x, 4, w, 19, -1)
         for y in (102, 134):
-            well(img, x, y, w, 23, -1)
+            well(img, s, x, y, w, 23, -1)
         for y in (166, 198):
-            well(img, x, y, w, 23, -1, faint=.45)
-    well(img, 4, 28, 138, 66, 1, -.012)
-    well(img, 4, 229, 138, 22, -1)
+            well(img, s, x, y, w, 23, -1, faint=.45)
+    well(img, s, 4, 28, 138, 66, 1, -.012)
+    well(img, s, 4, 229, 138, 22, -1)
     return img
 
 
-def info(at=(2, 99, 141, 157)):
+def info(s, at=(2, 99, 141, 157)):
     """What tells about a house lies on the palette, a little inside its rim: a piece
     of the palette without keys, so that the palette's own frame goes on around it."""
-    def field(img, d):
-        well(img, 4, 101, 138, 152, 1, -.012)
+    def field(img, s):
+        well(img, s, 4, 101, 138, 152, 1, -.012)
         return img
     x, y, w, h = at
-    return plate(145, 258, SKY, 19, field=field)[y:y + h, x:x + w]
+    return box(plate(145, 258, SKY, 19, s, field=field), x, y, w, h, s)
 
 
 def dividers(*xs):
-    def field(img, d):
-        h = img.shape[0]
+    def field(img, s):
+        a, b = 9 * s, img.shape[0] - 9 * s
         for x in xs:
-            e = np.clip(np.minimum(np.arange(9, h - 9) - 8, h - 9 - np.arange(9, h - 9)) / 8., 0, 1)[:, None]
-            img[9:h - 9, x] += e * np.array([-.075, -.065, -.04])
-            img[9:h - 9, x + 1] += e * np.array([.09, .075, .035])
+            e = np.clip(np.minimum(np.arange(a, b) - a + 1, b - np.arange(a, b)) / (8. * s), 0, 1)[:, None]
+            img[a:b, x * s] += e * np.array([-.075, -.065, -.04])
+            img[a:b, x * s + 1] += e * np.array([.09, .075, .035])
         return img
     return field
 
 
-def views_field(img, d):
+def views_field(img, s):
     """Six keys in a row under the name of the view, each centred on its letter."""
-    rule(img, 16, 129, 28)
+    rule(img, 16, 129, 28, s)
     for i in range(6):
-        well(img, 24 * i + 3, 59, 19, 18, -1)
+        well(img, s, 24 * i + 3, 59, 19, 18, -1)
     return img
 
 
-def row(w, h, base, seed, label=(8, 5, 145, 25)):
+def row(w, h, base, seed, s=1, label=(8, 5, 145, 25)):
     """A row of a menu.  Its label is a plain box on the right of the plate: two lines
     run around that box, and in what is left before it stands a post with a stone."""
-    x, y, lw, lh = label
+    w, h = w * s, h * s
+    x, y, lw, lh = (k * s for k in label)
     img = np.empty((h, w, 3))
     img[:] = base
     gold, pale, deep = (np.array(c) / 255. for c in ((186, 154, 92), (238, 226, 194), (150, 176, 216)))
@@ -177,8 +179,10 @@ def row(w, h, base, seed, label=(8, 5, 145, 25)):
     img[y + lh + 2, 4:w] = base * .90                               # a shadow below
     t = (np.arange(y - 1, y + lh + 1) - y + 1.) / (lh + 1)
     post = IVORY * (1.05 - .13 * t[:, None])
-    n = np.random.RandomState(seed).randn(len(t), 6)
-    for k, lift in enumerate((1.00, 1.07, 1.05, 1.01, .96, .90)):   # the post, round
+    n = np.random.RandomState(seed).randn(len(t), x - 2)
+    lifts = (1.00, 1.07, 1.05, 1.01, .96, .90)
+    for k in range(x - 2):                                          # the post, round
+        lift = np.interp((k + .5) / s - .5, range(6), lifts)
         img[y - 1:y + lh + 1, 1 + k] = np.clip(post * (lift + .012 * n[:, k:k + 1]), 0, 1)
     img[y - 2:y + lh + 2, 0] = gold
     img[(y - 2, y + lh + 1), 0] = base
@@ -187,7 +191,7 @@ def row(w, h, base, seed, label=(8, 5, 145, 25)):
         img[yy, 1:x - 1] *= .86
         img[yy + 1, 1:x - 1] = np.clip(img[yy + 1, 1:x - 1] * 1.04, 0, 1)
     def stone(k):                                                   # a lozenge on the post
-        return lambda i, j: np.abs(i - 4) / (2.9 * k) + np.abs(j - y - lh / 2) / (5.6 * k) < 1
+        return lambda i, j: np.abs(i - 4 * s) / (2.9 * s * k) + np.abs(j - y - lh / 2) / (5.6 * s * k) < 1
     img[:, :x - 1] = drawn(x - 1, h, img[:, :x - 1], stone(1), gold * .9)
     img[:, :x - 1] = drawn(x - 1, h, img[:, :x - 1], stone(.68), deep)
     img[:, :x - 1] = drawn(x - 1, h, img[:, :x - 1], lambda i, j: stone(.68)(i, j) & (j < y + lh / 2), deep * 1.18)
@@ -201,18 +205,22 @@ def main():
             ('Image10', 145, 55, SKY, 15, vignette), ('Image9', 145, 34, SKY, 16, None),
             ('Image5', 145, 34, SKY, 17, None), ('Image4', 145, 34, SKY, 18, None),
             ('Image6', 145, 258, SKY, 19, tools_field), ('Image8', 178, 37, SKY, 20, None)):
-        save_rgb('panel/' + name, plate(w, h, base, seed, field=field))
-    save_rgb('panel/Image2', info())
+        for s in SCALES:
+            save_rgb('panel/' + name, plate(w, h, base, seed, s, field=field), s)
     for i, name in enumerate(('Picture1', 'Picture2', 'Picture3', 'Picture5', 'Picture6', 'Picture7', 'Picture8', 'Picture9', 'ivir')):
-        save_rgb('panel/' + name, row(155, 33, PALE, 40 + i))
-    marks()
+        for s in SCALES:
+            save_rgb('panel/' + name, row(155, 33, PALE, 40 + i, s), s)
+    for s in SCALES:
+        save_rgb('panel/Image2', info(s), s)
+        marks(s)
     icon()
 
 
-def vignette(img, d, box=(4, 73, 504, 263)):
+def vignette(img, s, part=(4, 73, 504, 263)):
     """The castle and the roofs below it, small, from the picture behind the menus."""
     h, w = img.shape[:2]
-    a = Image.open(path('panel/menu')).convert('RGB').resize((w, h), Image.LANCZOS, box)
+    part = tuple(k * s for k in part)
+    a = Image.open(path('panel/menu', s)).convert('RGB').resize((w, h), Image.LANCZOS, part)
     a = np.asarray(a, float) / 255
     a = unsharp(a, np.ones((h, w), bool), .5, .7)
     return np.clip(a * 1.04 + .02, 0, 1)
@@ -233,10 +241,10 @@ def stroke(x, y, a, b, r0, r1):
     return np.hypot(x - a[0] - t * d[0], y - a[1] - t * d[1]) < r0 + (r1 - r0) * t
 
 
-def marks():
+def marks(s):
     tick = lambda x, y: stroke(x, y, (1.9, 5.2), (4.6, 8.1), .8, 1.25) | stroke(x, y, (4.6, 8.1), (10.2, 1.6), 1.25, .7)
-    save_rgb('panel/Picture20', drawn(12, 10, PALE, tick, np.array([26, 138, 44]) / 255.))
-    save_rgb('panel/Picture21', drawn(7, 7, PALE, lambda x, y: np.hypot(x - 3.5, y - 3.5) < 2.3, np.zeros(3)))
+    save_rgb('panel/Picture20', drawn(12 * s, 10 * s, PALE, lambda x, y: tick(x / s, y / s), np.array([26, 138, 44]) / 255.), s)
+    save_rgb('panel/Picture21', drawn(7 * s, 7 * s, PALE, lambda x, y: np.hypot(x / s - 3.5, y / s - 3.5) < 2.3, np.zeros(3)), s)
 
 
 def icon():

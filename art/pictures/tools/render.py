@@ -1,9 +1,10 @@
-"""From a POV-Ray scene to a finished drawing.
+"""From a POV-Ray scene to the finished drawings of both scales.
 
 A scene is rendered twice without POV-Ray's own anti-aliasing at SS times the
 size, so that every sample belongs to one surface: pass 0 the light (16 bit,
 linear), pass 1 the depth and whether the sample shows an object or the bare
-ground.  Averaging, outline, grading, grass and masking are done here.
+ground.  Averaging, outline, grading, grass and masking are done here, for
+scale 2 from the same samples, half as many a pixel each way.
 
 ART_DRAFT=1 renders coarser and three times faster, for trying things out."""
 import os
@@ -78,10 +79,11 @@ def read_ppm(path):
     return a.reshape(h, w, 3).astype(float) / m
 
 
-def outline(depth, thin=.5, jump=.06):
+def outline(depth, thin=.5, jump=.06, s=1):
     """Line strength per sample, 0..1: silhouettes drawn inside the nearer
-    surface, `thin` pixels wide, wherever a neighbour is `jump` farther."""
-    r = max(1, int(round(SS * thin)))
+    surface, `thin` pixels wide (a little more at scale 2, where pixels are
+    small), wherever a neighbour is `jump` farther."""
+    r = max(1, int(round(SS * thin * {1: 1, 2: .7}[s])))
     far = np.zeros_like(depth)
     for dy, dx in ((0, 1), (0, -1), (1, 0), (-1, 0)):
         for k in (1, r):
@@ -115,16 +117,16 @@ def spill(name, kind, opts, mask):
     return [(int(x) - m, int(y) - m) for y, x in zip(*np.nonzero(out))]
 
 
-def footprint(w, h, ox, oy, n):
-    foot = np.zeros((h, w), bool)
-    foot[oy:oy + 32 * n, ox - 32 * n:ox + 32 * n] = diamond_mask(n)
+def footprint(w, h, ox, oy, n, s):
+    foot = np.zeros((h * s, w * s), bool)
+    box(foot, ox - 32 * n, oy, 64 * n, 32 * n, s)[:] = diamond_mask(n, s)
     return foot
 
 
-def below(w, h, ox, oy, n):
+def below(w, h, ox, oy, n, s):
     """Pixels under the two lower edges of the footprint: never drawn."""
-    y, x = np.mgrid[0:h, 0:w]
-    return (y + .5 - oy) / 16 + np.abs(x + .5 - ox) / 32 > 2 * n
+    u, v = cell_uv(w, h, ox, oy, s=s)
+    return np.maximum(u, v) > n
 
 
 def drop_strays(mask, foot):
@@ -139,52 +141,66 @@ def drop_strays(mask, foot):
         mask = mask & ~stray
 
 
-def grass_canvas(w, h, ox, oy):
+def grass_canvas(w, h, ox, oy, s):
     """Meadow of the two common grounds, as the bare cells around will show."""
-    g = [pair(0), pair(28)]
-    c = np.zeros((h, w, 4), np.uint8)
+    g = [pair(0, s), pair(28, s)]
+    c = np.zeros((h * s, w * s, 4), np.uint8)
     for X in range(-4, 6):
         for Y in range(-4, 6):
-            blit(c, g[(X * 7 + Y * 3) % 5 == 0], ox - 32 + 32 * (X - Y), oy + 16 * (X + Y))
+            blit(c, g[(X * 7 + Y * 3) % 5 == 0], s * (ox - 32 + 32 * (X - Y)), s * (oy + 16 * (X + Y)))
     return c[..., :3] / 255.
 
 
-def finish(name, kind, opts):
-    """The finished drawing of a scene on the canvas of its kind.  Inside the
-    footprint the model stands on the same grass as the bare cells, and ground
-    shadows fade out over the last pixels before the rim, so that a plot shows
-    no edge; above the footprint a pixel is in when half covered."""
-    w, h, ox, oy, n, table = KINDS[kind]
-    t0 = time.time()
-    beauty, depth, obj, lit0 = samples_pov(name, kind, opts)
-    line = outline(depth, opts.get('thin', .5)) * obj
+def averaged(samples, opts, s):
+    """Colour of the objects (linear, outlined), their coverage of each pixel,
+    and how much light the bare ground beside them gets."""
+    beauty, depth, obj, lit0 = samples
+    line = outline(depth, opts.get('thin', .5), opts.get('jump', .06), s) * obj
     ink = 1 - opts.get('line', .62) * np.array([1, 1.03, 1.06])  # dark brown, not black
     beauty = beauty * (1 - line[..., None] * (1 - ink))
-
-    cov = box_down(obj, SS)
+    cov = box_down(obj, SS // s)
     c3 = cov[..., None]
-    col = box_down(beauty * obj[..., None], SS) / np.maximum(c3, 1e-6)
-    shade = box_down(beauty * (1 - obj[..., None]), SS) / np.maximum(1 - c3, 1e-6) / lit0
+    col = box_down(beauty * obj[..., None], SS // s) / np.maximum(c3, 1e-6)
+    shade = box_down(beauty * (1 - obj[..., None]), SS // s) / np.maximum(1 - c3, 1e-6) / lit0
+    return col, cov, shade
+
+
+def finish(name, kind, opts):
+    """The finished drawings of a scene, {scale: picture}, on the canvas of its
+    kind, and the table of its pieces."""
+    t0 = time.time()
+    samples = samples_pov(name, kind, opts)
+    out = {s: finished(samples, kind, opts, s) for s in SCALES}
+    # an endless scene goes on over the rim on purpose, to join the next cell
+    lost = [] if opts.get('endless') else spill(name, kind, opts, out[1][..., 3] > 0)
+    print('   %-10s %5.1f s%s' % (opts.get('as', name), time.time() - t0,
+          ', outside the picture: %s' % lost if lost else ''), flush=True)
+    return out, KINDS[kind][5]
+
+
+def finished(samples, kind, opts, s):
+    """Inside the footprint the model stands on the same grass as the bare
+    cells, and ground shadows fade out over the last pixels before the rim, so
+    that a plot shows no edge; above the footprint a pixel is in when half
+    covered."""
+    w, h, ox, oy, n, _ = KINDS[kind]
+    col, cov, shade = averaged(samples, opts, s)
+    c3 = cov[..., None]
     col = grade(col, opts.get('exposure', 1.0), opts.get('sat', 1.05), opts.get('contrast', 1.10))
     col = unsharp(col, cov > .02, opts.get('sharp', .5), .7)
 
-    foot = footprint(w, h, ox, oy, n)
-    u, v = cell_uv(w, h, ox, oy)
+    foot = footprint(w, h, ox, oy, n, s)
+    u, v = cell_uv(w, h, ox, oy, s=s)
     fade = opts.get('fade', 'xy')               # towards which edges shadows fade out
-    rim = np.full((h, w), 1.)                   # 0..1 over 5 pixels from the rim
+    rim = np.ones((h * s, w * s))               # 0..1 over 5 units from the rim
     for axis, t in (('x', u), ('y', v)):
         if axis in fade:
             rim = np.minimum(rim, np.minimum(t, n - t) * 32 / 5)
     rim = np.clip(rim, 0, 1)[..., None]
     shade = 1 - (1 - np.clip(shade, 0, 1)) * (rim * rim * (3 - 2 * rim))
-    comp = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(grass_canvas(w, h, ox, oy)) * shade)
-    above = (cov >= .5) & ~foot & ~below(w, h, ox, oy, n)
+    comp = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(grass_canvas(w, h, ox, oy, s)) * shade)
+    above = (cov >= .5) & ~foot & ~below(w, h, ox, oy, n, s)
     if kind in ('flat', 'tile'):
         above[:] = False
     mask = drop_strays(foot | above, foot)
-    # an endless scene goes on over the rim on purpose, to join the next cell
-    lost = [] if opts.get('endless') else spill(name, kind, opts, mask)
-    img = rgba(np.where(foot[..., None], comp, col), mask)
-    print('   %-10s %5.1f s%s' % (opts.get('as', name), time.time() - t0,
-          ', outside the picture: %s' % lost if lost else ''), flush=True)
-    return img, table
+    return rgba(np.where(foot[..., None], comp, col), mask)

@@ -1,6 +1,7 @@
 """The seven road pictures and the two empty road patches of the walkers.
 
-Across a straight road the colour is a table of 64 entries.  A pixel of the
+Across a straight road the colour is a table of 64 entries (twice as many at
+scale 2).  A pixel of the
 road along y takes entry px + 2 py - 32 and one of the road along x entry
 2 py - px + 32, so the picture does not change at all under a shift of (2, -1)
 or (2, 1): a walker's frame, which carries its own piece of road, lands on
@@ -13,7 +14,6 @@ unless the road ends there, and then those pixels stay on the meadow until the
 cell is painted again."""
 import numpy as np
 from iso import *
-from grounds import plain
 
 # Across the road: from this part of the width on, this colour.  Side 0 is the
 # one that the sun reaches, up and left.
@@ -34,18 +34,19 @@ JOINT, LIT = rgb('8d8575'), rgb('a9a190')
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
-def across(q):
-    """Colour (linear) at part q of the width, averaged over one of 64 steps."""
+def across(q, s):
+    """Colour (linear) at part q of the width, averaged over one of the steps."""
     out = 0
     for k in range(8):
-        qq = np.clip(q + ((k + .5) / 8 - .5) / 64, 0, .9999)
+        qq = np.clip(q + ((k + .5) / 8 - .5) / (64 * s), 0, .9999)
         out = out + COLOURS[np.searchsorted(EDGES, qq, 'right') - 1]
     return out / 8
 
 
-def table(q):
-    """Colour of the straight road, snapped to the 64 entries."""
-    return across((np.round(q * 64 - .5) + .5) / 64)
+def table(q, s):
+    """Colour of the straight road, snapped to the entries of the table."""
+    n = 64 * s
+    return across((np.round(q * n - .5) + .5) / n, s)
 
 
 def turn(a, b):
@@ -55,12 +56,12 @@ def turn(a, b):
     return np.where(np.minimum(a, b) <= e, np.maximum(a, b), e + np.hypot(a - e, b - e))
 
 
-def shaded(a, b, side_a, side_b, limit=1.):
+def shaded(a, b, side_a, side_b, s, limit=1.):
     """Road round a grass corner.  side_a, side_b tell on which side of the
     profile the corner lies for the arm that crosses edge a or edge b; where
     they differ the two sides melt into one another along the bend."""
     d = np.minimum(turn(a, b), limit)
-    col = lambda side: table(1 - d if side else d)
+    col = lambda side: table(1 - d if side else d, s)
     if side_a == side_b:
         return col(side_a)
     e = STRAIGHT
@@ -76,57 +77,57 @@ def shaded(a, b, side_a, side_b, limit=1.):
 VERTEX = {'n': (0, 0), 'e': (1, 0), 's': (1, 1), 'w': (0, 1)}
 
 
-def bend(vertex, u, v):
+def bend(vertex, u, v, s):
     cu, cv = VERTEX[vertex]
-    return shaded(np.abs(u - cu), np.abs(v - cv), cu, cv)
+    return shaded(np.abs(u - cu), np.abs(v - cv), cu, cv, s)
 
 
-def supersampled(paint, s=4):
-    """Mean of paint(u, v) over s x s points of every pixel."""
+def supersampled(paint, s, n=4):
+    """Mean of paint(u, v) over n x n points of every pixel."""
     acc = 0
-    for sy in range(s):
-        for sx in range(s):
-            acc = acc + paint(*cell_uv(dx=(sx + .5) / s, dy=(sy + .5) / s))
-    return acc / (s * s)
+    for sy in range(n):
+        for sx in range(n):
+            acc = acc + paint(*cell_uv(dx=(sx + .5) / n, dy=(sy + .5) / n, s=s))
+    return acc / (n * n)
 
 
-def straight(along):
-    u, v = cell_uv()
-    return rgba(to_srgb(table(u if along == 'y' else v)), diamond_mask())
+def straight(along, s=1):
+    u, v = cell_uv(s=s)
+    return rgba(to_srgb(table(u if along == 'y' else v, s)), diamond_mask(1, s))
 
 
-def exact_arms(img, vertex, only=None):
+def exact_arms(img, vertex, s, only=None):
     """Near the edges that the vertex lies between, the picture is the straight
     road to the pixel (where `only` allows)."""
     cu, cv = VERTEX[vertex]
-    u, v = cell_uv()
+    u, v = cell_uv(s=s)
     a, b = np.abs(u - cu), np.abs(v - cv)
     for along, near in (('x', (a < STRAIGHT) & (a < b)), ('y', (b < STRAIGHT) & (b <= a))):
-        src = straight(along)
+        src = straight(along, s)
         near = near & (src[..., 3] > 0) & (only if only is not None else True)
         img[near] = src[near]
     return img
 
 
-def corner(vertex):
+def corner(vertex, s):
     """Bend round one vertex; beyond the outer kerb the cell is meadow."""
     cu, cv = VERTEX[vertex]
-    col = supersampled(lambda u, v: bend(vertex, u, v))
-    far = supersampled(lambda u, v: np.clip((turn(np.abs(u - cu), np.abs(v - cv)) - .985) / .02, 0, 1)[..., None])
-    meadow = to_lin(plain()[..., :3] / 255.)
-    img = rgba(to_srgb(col * (1 - far) + meadow * far), diamond_mask())
-    return exact_arms(img, vertex)
+    col = supersampled(lambda u, v: bend(vertex, u, v, s), s)
+    far = supersampled(lambda u, v: np.clip((turn(np.abs(u - cu), np.abs(v - cv)) - .985) / .02, 0, 1)[..., None], s)
+    meadow = to_lin(pair(0, s)[..., :3] / 255.)
+    img = rgba(to_srgb(col * (1 - far) + meadow * far), diamond_mask(1, s))
+    return exact_arms(img, vertex, s)
 
 
-def setts():
+def setts(s):
     """Small stones in bond over a cell, in the greys of the road, and where
     they lie: not by the kerbs, and fewer towards the edges, so that no line
     crosses an arm."""
     rnd = np.random.RandomState(37)
-    y, x = np.mgrid[0:TH, 0:TW]
-    a = np.clip(x + 2 * y - 32, 0, 63)              # 64 steps along u, 64 along v
-    b = np.clip(2 * y - x + 32, 0, 63) + 4 * (a // 8 % 2)
-    row, stone = a // 8, b // 8
+    y, x = np.mgrid[0:TH * s, 0:TW * s] / s
+    a = np.clip(x + 2 * y - 32, 0, 63.5)            # 64 steps along u, 64 along v
+    b = np.clip(2 * y - x + 32, 0, 63.5) + 4 * (a // 8 % 2)
+    row, stone = (a // 8).astype(int), (b // 8).astype(int)
     tone = rnd.randint(len(STONES), size=(8, 9))[row, stone]
     chance = rnd.rand(8, 9)[row, stone]
     col = STONES[tone]
@@ -139,7 +140,7 @@ def setts():
     return col, laid
 
 
-def junction():
+def junction(s):
     """Four arms; each quarter of the cell turns round its own vertex, and the
     wheel tracks end in small paving as sharp as they are.  The picture also
     stands where three arms meet, so nothing in it may mark a side as open or
@@ -149,44 +150,45 @@ def junction():
         for cu, cv in VERTEX.values():
             here = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
             a, b = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
-            out[here] = shaded(a, b, cu, cv, .5)[here]
+            out[here] = shaded(a, b, cu, cv, s, .5)[here]
         return out
 
-    stones, laid = setts()
-    img = rgba(np.where(laid[..., None], stones, to_srgb(supersampled(paint))), diamond_mask())
-    u, v = cell_uv()
+    stones, laid = setts(s)
+    img = rgba(np.where(laid[..., None], stones, to_srgb(supersampled(paint, s))), diamond_mask(1, s))
+    u, v = cell_uv(s=s)
     for name, (cu, cv) in VERTEX.items():
         quarter = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
         kerb = np.maximum(np.abs(u - cu), np.abs(v - cv)) < .17
         walked = (u > 1 - STRAIGHT) & (v < .30)
-        exact_arms(img, name, quarter & (kerb | walked))
+        exact_arms(img, name, s, quarter & (kerb | walked))
     return img
 
 
-def plane(along, w, h, x0, y0):
+def plane(along, w, h, x0, y0, s):
     """Block (x0, y0, w, h) of the straight road continued for ever, in the
-    pixels of the flat box."""
-    t = straight(along)
-    out = np.zeros((h, w, 4), np.uint8)
+    units of the flat box."""
+    t = straight(along, s)
+    out = np.zeros((h * s, w * s, 4), np.uint8)
     for k in range(-3, 4):
         for j in range(-1, 2):
             a, b = (k, j) if along == 'x' else (j, k)
-            blit(out, t, 32 * (a - b) - x0, 16 * (a + b) - y0)
+            blit(out, t, s * (32 * (a - b) - x0), s * (16 * (a + b) - y0))
     return out
 
 
-def patch(along):
-    """The piece of road that a walker carries: 12 x 17 pixels."""
-    return plane(along, 12, 17, *{'y': (20, 6), 'x': (24, 2)}[along])
+def patch(along, s=1):
+    """The piece of road that a walker carries: 12 x 17 units."""
+    return plane(along, 12, 17, *{'y': (20, 6), 'x': (24, 2)}[along], s)
 
 
 def render():
-    save_pair(1, straight('y'))
-    save_pair(2, straight('x'))
-    save_pair(37, junction())
-    save_pair(49, corner('n'))
-    save_pair(50, corner('e'))
-    save_pair(51, corner('w'))
-    save_pair(52, corner('s'))
-    save_tile(56, patch('y'))
-    save_tile(57, patch('x'))
+    for s in SCALES:
+        save_pair(1, straight('y', s), s)
+        save_pair(2, straight('x', s), s)
+        save_pair(37, junction(s), s)
+        save_pair(49, corner('n', s), s)
+        save_pair(50, corner('e', s), s)
+        save_pair(51, corner('w', s), s)
+        save_pair(52, corner('s', s), s)
+        save_tile(56, patch('y', s), s)
+        save_tile(57, patch('x', s), s)

@@ -1,4 +1,5 @@
-"""Render the large scenes: run POV-Ray, draw outlines, average, grade.
+"""Render the large scenes: run POV-Ray, draw outlines, average, grade.  Both
+scales are averaged from the same samples.
 
 ART_DRAFT=1 in the environment renders with single samples and few sky lights."""
 import subprocess, sys, time
@@ -57,19 +58,22 @@ def outline(depth, ss, thin=.45, jump=.07):
     return np.clip((far - jump) / jump, 0, 1)
 
 
-def tufts(x0, y0, w, h):
-    """Fine blades for grass, -1, 0 or 1, by the place on the surface.  They repeat
-    with the step of the water pictures, so that grassy banks agree there."""
+def tufts(x0, y0, w, h, s):
+    """Fine blades for grass, -1, 0 or 1, by the place on the surface; longer ones
+    at scale 2.  They repeat with the step of the water pictures, so that grassy
+    banks agree there."""
     r = np.random.RandomState(7)
-    n = r.randn(2048, 122)
-    n = n + .9 * np.roll(n, 1, 0) + .35 * np.roll(n, 1, 1)
+    n = r.randn(2048, 122 * s)
+    lean = .9 * np.roll(n, 1, 0) if s == 1 else .9 * np.roll(n, 1, 0) + .7 * np.roll(n, (2, 1), (0, 1))
+    n = n + lean + .35 * np.roll(n, 1, 1)
     n = np.where(n > 1.25, 1, np.where(n < -1.25, -1, 0))
-    y, x = np.mgrid[y0:y0 + h, x0:x0 + w]
-    return n[(y + 61 * (x // 122)) % 2048, x % 122]
+    y, x = np.mgrid[y0 * s:(y0 + h) * s, x0 * s:(x0 + w) * s]
+    return n[(y + 61 * s * (x // (122 * s))) % 2048, x % (122 * s)]
 
 
-def shot(scene, w, h, ox, oy, ss=4, dome=16, sat=1.06, contrast=1.10, exposure=1.0):
-    """A finished picture (sRGB floats) on black, and its coverage by objects."""
+def shot(scene, w, h, ox, oy, ss=4, dome=16):
+    """The finished pictures (sRGB floats) on black, by scale: {1: ..., 2: ...}.
+    ss samples a unit, so half as many a pixel at scale 2."""
     if DRAFT:
         ss, dome = 2, 5
     t = time.time()
@@ -78,17 +82,23 @@ def shot(scene, w, h, ox, oy, ss=4, dome=16, sat=1.06, contrast=1.10, exposure=1
     b = povray(scene, 0, w, h, ss, ext) * 2
     aux = povray(scene, 1, w, h, ss, ext)
     obj = (aux[..., 1] > .5).astype(np.float32)
-    line = outline(aux[..., 0] * 60, ss) * obj
+    out = {s: averaged(b, aux[..., 0] * 60, obj, light, s, ss, 992 - int(ox), 32 - int(oy)) for s in SCALES}
+    print('%s %dx%d: %.0f s' % (scene, w, h, time.time() - t), flush=True)
+    return out
+
+
+def averaged(b, depth, obj, light, s, ss, x0, y0, sat=1.06, contrast=1.10, exposure=1.0):
+    n = ss // s
+    line = outline(depth, n) * obj
     b = b * (1 - line[..., None] * .5)
-    cov = box_down(obj, ss)[..., None]
-    col = box_down(b * obj[..., None], ss) / np.maximum(cov, 1e-6)
-    gnd = box_down(b * (1 - obj[..., None]), ss) / np.maximum(1 - cov, 1e-6) / light
+    cov = box_down(obj, n)[..., None]
+    col = box_down(b * obj[..., None], n) / np.maximum(cov, 1e-6)
+    gnd = box_down(b * (1 - obj[..., None]), n) / np.maximum(1 - cov, 1e-6) / light
     col = grade(col, exposure, sat, contrast)
     col = unsharp(col, cov[..., 0] > .02, .45, .7)
     gnd = np.where(gnd > .8, .8 + .2 * (1 - np.exp(-(gnd - .8) / .2)), gnd)
     gnd = to_srgb(gnd)
     green = np.clip((gnd[..., 1] - gnd[..., [0, 2]].max(-1) - .04) / .06, 0, 1) * np.clip(gnd[..., 1] * 6 - .6, 0, 1)
-    gnd = gnd * (1 + .055 * green * tufts(992 - int(ox), 32 - int(oy), w, h))[..., None]
-    img = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(gnd))
-    print('%s %dx%d: %.0f s' % (scene, w, h, time.time() - t), flush=True)
-    return img, cov[..., 0]
+    h, w = green.shape
+    gnd = gnd * (1 + .055 * green * tufts(x0, y0, w // s, h // s, s))[..., None]
+    return to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(gnd))

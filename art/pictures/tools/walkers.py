@@ -16,27 +16,29 @@ WALKS = {
     3: (3, 2, 'x', {43: 1, 42: 3}),              # up and left
 }
 scenes.KINDS['walker'] = (12, 17, 6, -2, 1, None)
-CLEAR = np.zeros((17, 12), bool)
-CLEAR[1:16, 2:10] = True
 
 
-def frame(person, heading, along, step):
-    opts = {'as': 'walker', 'declare': ['Dir=%d' % heading, 'Step=%d' % step, 'Who=%d' % person]}
-    beauty, depth, obj, lit0 = scenes.samples_pov('walker', 'walker', opts)
-    line = scenes.outline(depth, .42, .05) * obj
-    beauty = beauty * (1 - line[..., None] * .5)
-    cov = box_down(obj, scenes.SS)[..., None]
-    col = box_down(beauty * obj[..., None], scenes.SS) / np.maximum(cov, 1e-6)
-    shade = box_down(beauty * (1 - obj[..., None]), scenes.SS) / np.maximum(1 - cov, 1e-6) / lit0
-    col = unsharp(grade(col, 1.12, 1.2, 1.12), cov[..., 0] > .02, .5, .7)
-    road = patch(along)
-    mix = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(road[..., :3] / 255.) * np.clip(shade, 0, 1))
-    out = rgba(mix, np.ones((17, 12), bool))
-    out[~CLEAR] = road[~CLEAR]
+def free(s=1):
+    """Pixels of a block that a figure may use."""
+    out = np.zeros((17 * s, 12 * s), bool)
+    box(out, 2, 1, 8, 15, s)[:] = True
+    return out
+
+
+def frame(samples, along, s):
+    col, cov, shade = scenes.averaged(samples, {'thin': .42, 'jump': .05, 'line': .5}, s)
+    col = unsharp(grade(col, 1.12, 1.2, 1.12), cov > .02, .5, .7)
+    road, c3 = patch(along, s), cov[..., None]
+    mix = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(road[..., :3] / 255.) * np.clip(shade, 0, 1))
+    out = rgba(mix, np.ones(cov.shape, bool))
+    out[~free(s)] = road[~free(s)]
     return out
 
 
 def render():
     for person, heading, along, frames in WALKS.values():
         for n, step in frames.items():
-            save_tile(n, frame(person, heading, along, step))
+            opts = {'as': 'walker', 'declare': ['Dir=%d' % heading, 'Step=%d' % step, 'Who=%d' % person]}
+            samples = scenes.samples_pov('walker', 'walker', opts)
+            for s in SCALES:
+                save_tile(n, frame(samples, along, s), s)
