@@ -6,19 +6,24 @@
 namespace platform {
 
 void Brush::fillDown(const Rect& rect, Color top, Color bottom) const {
-  const Rect area = intersection(rect, clip_);
+  const Rect whole = target_.inPixels(rect);
+  const Rect area = intersection(whole, target_.inPixels(clip_));
   for (int y = area.top; y < area.bottom(); ++y) {
-    const int percent = rect.height > 1 ? (y - rect.top) * 100 / (rect.height - 1) : 0;
-    target_.fill({area.left, y, area.width, 1}, mix(top, bottom, percent));
+    const int percent = whole.height > 1 ? (y - whole.top) * 100 / (whole.height - 1) : 0;
+    target_.fillPixels({area.left, y, area.width, 1}, mix(top, bottom, percent));
   }
 }
 
 void Brush::darken(const Rect& rect) const {
-  const Rect area = intersection(rect, clip_);
+  const Rect area = target_.inPixels(intersection(rect, clip_));
   for (int y = area.top; y < area.bottom(); ++y) {
     std::uint8_t* p = target_.row(y) + static_cast<std::size_t>(area.left) * 3;
     for (int i = 0; i < area.width * 3; ++i) p[i] = static_cast<std::uint8_t>(p[i] - p[i] / 4);
   }
+}
+
+void Brush::fillPixels(const Rect& pixels, Color color) const {
+  target_.fillPixels(intersection(pixels, target_.inPixels(clip_)), color);
 }
 
 void Brush::edges(const Rect& r, Color topLeft, Color bottomRight) const {
@@ -44,28 +49,33 @@ void Brush::sunken(const Rect& r, Color back) const {
 void Brush::line(Point from, Point to, Color color) const {
   const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
   if (steep ? from.y > to.y : from.x > to.x) std::swap(from, to);
-  // `along` runs over the longer side, `across` over the shorter, two pixels thick.
+  // `along` runs over the longer side, `across` over the shorter, two units thick. The line goes
+  // through the middle of the unit at `from`, wherever in it a row of pixels lies.
+  const int scale = target_.scale();
   const int length = steep ? to.y - from.y : to.x - from.x;
   const int rise = steep ? to.x - from.x : to.y - from.y;
-  for (int along = 0; along <= length; ++along) {
+  const Point start = target_.inPixels(from);
+  for (int along = 0; along < (length + 1) * scale; ++along) {
     int across = 0;
     if (length > 0) {
-      const int doubled = 2 * along * rise + length;
+      const int doubled = (2 * along - scale + 1) * rise + length;
       across = doubled / (2 * length) - (doubled % (2 * length) < 0 ? 1 : 0);
     }
-    const Rect dot = steep ? Rect{from.x + across - 1, from.y + along, 2, 1}
-                           : Rect{from.x + along, from.y + across - 1, 1, 2};
-    fill(dot, color);
+    const Rect dot = steep ? Rect{start.x + across - scale, start.y + along, 2 * scale, 1}
+                           : Rect{start.x + along, start.y + across - scale, 1, 2 * scale};
+    fillPixels(dot, color);
   }
 }
 
 void Brush::arrow(const Rect& rect, bool down, Color color) const {
   constexpr int kRows = 4;
-  const int middle = rect.left + (rect.width - 1) / 2;
-  const int top = rect.top + (rect.height - kRows) / 2;
-  for (int i = 0; i < kRows; ++i) {
-    const int half = down ? kRows - 1 - i : i;
-    fill({middle - half, top + i, 2 * half + 1, 1}, color);
+  const int scale = target_.scale();
+  const Point first = target_.inPixels(
+      Point{rect.left + (rect.width - 1) / 2, rect.top + (rect.height - kRows) / 2});
+  for (int i = 0; i < kRows * scale; ++i) {
+    const int fromTip = down ? kRows * scale - 1 - i : i;
+    const int width = 2 * fromTip + 2 - scale;
+    fillPixels({first.x + (scale - width) / 2, first.y + i, width, 1}, color);
   }
 }
 

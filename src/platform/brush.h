@@ -1,4 +1,5 @@
-// Drawing on the framebuffer inside one rectangle: fills, edges, text, pictures.
+// Drawing on the framebuffer inside one rectangle: fills, edges, text, pictures. All places are in
+// units; at a scale of two, slanted edges, shades and letters are drawn by the pixel.
 #pragma once
 
 #include <string_view>
@@ -33,14 +34,14 @@ class Brush {
   void fillDown(const Rect& rect, Color top, Color bottom) const;
   /// Takes a quarter of the light away.
   void darken(const Rect& rect) const;
-  /// A line of one pixel along the inside of the rectangle.
+  /// A line of one unit along the inside of the rectangle.
   void outline(const Rect& rect, Color color) const { edges(rect, color, color); }
   /// The same with one colour for the top and left, another for the bottom and right.
   void edges(const Rect& rect, Color topLeft, Color bottomRight) const;
-  /// Edges of two pixels that let a surface of colour `back` stand out, or lie deeper.
+  /// Edges of two units that let a surface of colour `back` stand out, or lie deeper.
   void raised(const Rect& rect, Color back) const;
   void sunken(const Rect& rect, Color back) const;
-  /// A line of two pixels; both end points belong to it.
+  /// A line of two units; both end points belong to it.
   void line(Point from, Point to, Color color) const;
   /// A small triangle in the middle of the rectangle that points down or up.
   void arrow(const Rect& rect, bool down, Color color) const;
@@ -52,6 +53,8 @@ class Brush {
   void line(const Rect& rect, std::string_view text, FontSize size, Color color, Align align) const;
 
  private:
+  void fillPixels(const Rect& pixels, Color color) const;
+
   Surface& target_;
   Rect clip_;
   Font& font_;

@@ -14,7 +14,7 @@ namespace platform {
 class Canvas {
  public:
   Canvas() = default;
-  Canvas(int width, int height) : surface_(width, height) {}
+  Canvas(int width, int height, int scale = 1) : surface_(width, height, scale) {}
 
   Surface& surface() { return surface_; }
   const Surface& surface() const { return surface_; }

@@ -11,7 +11,7 @@ namespace platform {
 namespace {
 
 constexpr int kSizes = 4;
-constexpr std::array<int, kSizes> kPixels{12, 15, 16, 19};
+constexpr std::array<int, kSizes> kHeights{12, 15, 16, 19};
 constexpr std::array<int, kSizes> kLineHeights{14, 18, 19, 22};
 
 constexpr char32_t kFirstPrepared = 0x20;
@@ -24,17 +24,17 @@ std::size_t number(FontSize size) {
 }
 
 /// What stands for a character that the font has not: an empty box of letter height.
-Glyph emptyBox(int pixels) {
+Glyph emptyBox(int height, int scale) {
   Glyph box;
-  box.width = pixels / 2;
-  box.height = pixels * 2 / 3;
-  box.advance = box.width + 2;
-  box.left = 1;
+  box.advance = height / 2 + 2;
+  box.width = height / 2 * scale;
+  box.height = height * 2 / 3 * scale;
+  box.left = scale;
   box.top = box.height;
   box.cover.assign(static_cast<std::size_t>(box.width * box.height), 0);
   for (int y = 0; y < box.height; ++y) {
     for (int x = 0; x < box.width; ++x) {
-      const bool rim = x == 0 || y == 0 || x == box.width - 1 || y == box.height - 1;
+      const bool rim = x < scale || y < scale || x >= box.width - scale || y >= box.height - scale;
       if (rim) box.cover[static_cast<std::size_t>(y * box.width + x)] = 255;
     }
   }
@@ -48,6 +48,7 @@ int lineHeight(FontSize size) {
 }
 
 struct Font::Implementation {
+  int scale = 1;
   std::unique_ptr<Glyphs> glyphs;
   std::array<int, kSizes> base{};  // from the top of a line to its base line
   std::array<std::array<Glyph, kPreparedPerSize>, kSizes> prepared;
@@ -59,7 +60,7 @@ struct Font::Implementation {
   std::size_t oldest = 0;  // the one to give way when all places are taken
 
   bool start(const std::string& path, std::string& error);
-  Glyph render(char32_t code, std::size_t size);
+  Glyph render(char32_t code, std::size_t size, int forScale);
   const Glyph& glyph(char32_t code, std::size_t size);
 };
 
@@ -69,19 +70,21 @@ bool Font::Implementation::start(const std::string& path, std::string& error) {
   if (glyphs == nullptr) return false;
   for (std::size_t size = 0; size < kSizes; ++size) {
     for (char32_t code = kFirstPrepared; code <= kLastPrepared; ++code) {
-      prepared[size][code - kFirstPrepared] = render(code, size);
+      prepared[size][code - kFirstPrepared] = render(code, size, scale);
     }
     // Capitals stand in the middle of the line, so that captions stand in the middle of buttons.
-    const int capital = prepared[size]['H' - kFirstPrepared].top;
+    const int capital = render('H', size, 1).top;
     base[size] = (kLineHeights[size] + capital + 1) / 2;
   }
   kept.reserve(kOnDemand);
   return true;
 }
 
-Glyph Font::Implementation::render(char32_t code, std::size_t size) {
+Glyph Font::Implementation::render(char32_t code, std::size_t size, int forScale) {
   Glyph glyph;
-  if (!glyphs->render(code, kPixels[size], glyph)) glyph = emptyBox(kPixels[size]);
+  if (!glyphs->render(code, kHeights[size], forScale, glyph)) {
+    glyph = emptyBox(kHeights[size], forScale);
+  }
   glyph.code = code;
   return glyph;
 }
@@ -91,18 +94,21 @@ const Glyph& Font::Implementation::glyph(char32_t code, std::size_t size) {
   for (const Kept& one : kept) {
     if (one.size == size && one.glyph.code == code) return one.glyph;
   }
-  if (kept.size() < kOnDemand) return kept.emplace_back(Kept{size, render(code, size)}).glyph;
+  if (kept.size() < kOnDemand)
+    return kept.emplace_back(Kept{size, render(code, size, scale)}).glyph;
   Kept& place = kept[oldest];
   oldest = (oldest + 1) % kOnDemand;
-  place = {size, render(code, size)};
+  place = {size, render(code, size, scale)};
   return place.glyph;
 }
 
-Font::Font() : implementation_(std::make_unique<Implementation>()) {}
+Font::Font(int scale) : implementation_(std::make_unique<Implementation>()) {
+  implementation_->scale = scale;
+}
 Font::~Font() = default;
 
-std::unique_ptr<Font> Font::open(const std::string& path, std::string& error) {
-  std::unique_ptr<Font> font(new Font);
+std::unique_ptr<Font> Font::open(const std::string& path, std::string& error, int scale) {
+  std::unique_ptr<Font> font(new Font(scale));
   if (!font->implementation_->start(path, error)) return nullptr;
   return font;
 }
@@ -116,14 +122,15 @@ int Font::width(std::string_view text, FontSize size) {
 void Font::draw(Surface& target, const Rect& clip, int x, int y, std::string_view text,
                 FontSize size, Color color) {
   const Rect area = intersection(clip, target.bounds());
-  const int base = y + implementation_->base[number(size)];
-  int pen = x;
+  const Rect pixels = target.inPixels(area);
+  Point pen{x, y + implementation_->base[number(size)]};
   // A letter may begin a little to the left of its pen, never a letter's height.
-  const int end = area.right() + kPixels[number(size)];
-  while (!text.empty() && pen < end) {
+  const int end = area.right() + kHeights[number(size)];
+  while (!text.empty() && pen.x < end) {
     const Glyph& glyph = implementation_->glyph(takeCharacter(text), number(size));
-    const Rect box{pen + glyph.left, base - glyph.top, glyph.width, glyph.height};
-    const Rect seen = intersection(box, area);
+    const Point at = target.inPixels(pen);
+    const Rect box{at.x + glyph.left, at.y - glyph.top, glyph.width, glyph.height};
+    const Rect seen = intersection(box, pixels);
     for (int row = seen.top; row < seen.bottom(); ++row) {
       const std::uint8_t* cover =
           &glyph
@@ -140,7 +147,7 @@ void Font::draw(Surface& target, const Rect& clip, int x, int y, std::string_vie
         blend(pixel[2], color.b);
       }
     }
-    pen += glyph.advance;
+    pen.x += glyph.advance;
   }
 }
 

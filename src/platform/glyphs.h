@@ -11,9 +11,10 @@ namespace platform {
 
 struct Glyph {
   char32_t code = 0;
-  int advance = 0;
-  int left = 0;  // from the pen to the bitmap
-  int top = 0;   // from the base line up to the bitmap's first row
+  int advance = 0;  // to the next letter, in units: a text is as wide at every scale
+  // The bitmap, in pixels.
+  int left = 0;  // from the pen to it
+  int top = 0;   // from the base line up to its first row
   int width = 0;
   int height = 0;
   std::vector<std::uint8_t> cover;  // one byte a pixel, 255 for wholly covered
@@ -22,8 +23,9 @@ struct Glyph {
 class Glyphs {
  public:
   virtual ~Glyphs() = default;
-  /// The letter `code` at a letter height of `pixels`. False where the font does not have it.
-  virtual bool render(char32_t code, int pixels, Glyph& into) = 0;
+  /// The letter `code` at a letter height of `height` units, for surfaces of that scale. False where
+  /// the font does not have it.
+  virtual bool render(char32_t code, int height, int scale, Glyph& into) = 0;
 };
 
 /// Opens a font file. On failure returns nothing and says in `error` what is wrong with it.

@@ -52,35 +52,36 @@ RowOperation rowOperation(std::uint32_t operation) {
 Rect copied(const Surface& target, const Rect& box, const Surface& source, int sourceX,
             int sourceY) {
   const Rect behind = moved(source.bounds(), box.left - sourceX, box.top - sourceY);
-  return intersection(intersection(box, target.bounds()), behind);
+  return target.inPixels(intersection(intersection(box, target.bounds()), behind));
 }
 
 }  // namespace
 
 // A stride of whole 16 bytes begins every row where a vector load likes it: plain `new` aligns
 // to 16.
-Surface::Surface(int width, int height)
+Surface::Surface(int width, int height, int scale)
     : width_(width),
       height_(height),
-      stride_((bytes(width) + 15) / 16 * 16),
-      pixels_(new std::uint8_t[stride_ * static_cast<std::size_t>(height)]()) {}
+      scale_(scale),
+      stride_((bytes(width * scale) + 15) / 16 * 16),
+      pixels_(new std::uint8_t[stride_ * static_cast<std::size_t>(height * scale)]()) {}
 
 Color Surface::pixel(int x, int y) const {
-  if (!bounds().contains({x, y})) return kBlack;
+  if (!pixelBounds().contains({x, y})) return kBlack;
   const std::uint8_t* p = row(y) + bytes(x);
   return {p[0], p[1], p[2]};
 }
 
 void Surface::setPixel(int x, int y, Color color) {
-  if (!bounds().contains({x, y})) return;
+  if (!pixelBounds().contains({x, y})) return;
   std::uint8_t* p = row(y) + bytes(x);
   p[0] = color.r;
   p[1] = color.g;
   p[2] = color.b;
 }
 
-void Surface::fill(const Rect& rect, Color color) {
-  const Rect area = intersection(rect, bounds());
+void Surface::fillPixels(const Rect& pixels, Color color) {
+  const Rect area = intersection(pixels, pixelBounds());
   if (area.empty()) return;
   std::uint8_t* first = row(area.top) + bytes(area.left);
   if (color.r == color.g && color.g == color.b) {
@@ -98,8 +99,10 @@ void Surface::fill(const Rect& rect, Color color) {
 }
 
 Surface Surface::clone() const {
-  Surface copy(width_, height_);
-  if (!empty()) std::memcpy(copy.row(0), row(0), stride_ * static_cast<std::size_t>(height_));
+  Surface copy(width_, height_, scale_);
+  if (!empty()) {
+    std::memcpy(copy.row(0), row(0), stride_ * static_cast<std::size_t>(height_ * scale_));
+  }
   return copy;
 }
 
@@ -108,9 +111,10 @@ void BitBlt(Surface& target, int x, int y, int width, int height, const Surface&
   const RowOperation run = rowOperation(operation);
   const Rect area = copied(target, {x, y, width, height}, source, sourceX, sourceY);
   if (run == nullptr || area.empty()) return;
+  const Point back = source.inPixels(Point{sourceX - x, sourceY - y});
   for (int row = area.top; row < area.bottom(); ++row) {
-    run(target.row(row) + bytes(area.left),
-        source.row(row - y + sourceY) + bytes(area.left - x + sourceX), bytes(area.width));
+    run(target.row(row) + bytes(area.left), source.row(row + back.y) + bytes(area.left + back.x),
+        bytes(area.width));
   }
 }
 
@@ -122,18 +126,20 @@ void StretchBlt(Surface& target, int x, int y, int width, int height, const Surf
     return;
   }
   const RowOperation run = rowOperation(operation);
-  const Rect area = intersection({x, y, width, height}, target.bounds());
-  if (run == nullptr || area.empty() || sourceWidth <= 0 || sourceHeight <= 0) return;
+  const Rect box = target.inPixels(Rect{x, y, width, height});
+  const Rect from = source.inPixels(Rect{sourceX, sourceY, sourceWidth, sourceHeight});
+  const Rect area = intersection(box, target.pixelBounds());
+  if (run == nullptr || area.empty() || from.empty()) return;
   // The source pixel whose middle lies nearest to the middle of the target pixel.
   const auto nearest = [](int offset, int size, int sourceSize) {
     return static_cast<int>((2LL * offset + 1) * sourceSize / (2LL * size));
   };
   for (int row = area.top; row < area.bottom(); ++row) {
-    const int fromRow = sourceY + nearest(row - y, height, sourceHeight);
-    if (fromRow < 0 || fromRow >= source.height()) continue;
+    const int fromRow = from.top + nearest(row - box.top, box.height, from.height);
+    if (fromRow < 0 || fromRow >= source.pixelBounds().height) continue;
     for (int column = area.left; column < area.right(); ++column) {
-      const int fromColumn = sourceX + nearest(column - x, width, sourceWidth);
-      if (fromColumn < 0 || fromColumn >= source.width()) continue;
+      const int fromColumn = from.left + nearest(column - box.left, box.width, from.width);
+      if (fromColumn < 0 || fromColumn >= source.pixelBounds().width) continue;
       run(target.row(row) + bytes(column), source.row(fromRow) + bytes(fromColumn), bytes(1));
     }
   }
@@ -147,10 +153,11 @@ void blitPair(Surface& target, int x, int y, int width, int height, const Surfac
     BitBlt(target, x, y, width, height, mask, 0, 0, SRCPAINT);
     return;
   }
+  const Point place = target.inPixels(Point{x, y});
   for (int row = area.top; row < area.bottom(); ++row) {
-    const std::size_t from = bytes(area.left - x);
-    pairRow(target.row(row) + bytes(area.left), tile.row(row - y) + from, mask.row(row - y) + from,
-            bytes(area.width));
+    const std::size_t from = bytes(area.left - place.x);
+    pairRow(target.row(row) + bytes(area.left), tile.row(row - place.y) + from,
+            mask.row(row - place.y) + from, bytes(area.width));
   }
 }
 

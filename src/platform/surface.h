@@ -2,6 +2,9 @@
 //
 // A pixel is three bytes: red, green, blue. The copies clip on both sides: what would fall outside
 // the destination is dropped, and what would be read beyond the source gives nothing.
+//
+// Places and sizes are given in units of the layout. A surface has a scale, 1 or 2: so many pixels
+// each way make one unit. All surfaces that are copied to one another have the same scale.
 #pragma once
 
 #include <cstddef>
@@ -21,8 +24,8 @@ inline constexpr std::uint32_t SRCPAINT = 0x00EE0086;  // destination = destinat
 class Surface {
  public:
   Surface() = default;
-  /// A black surface; width and height in pixels, each at least 0.
-  Surface(int width, int height);
+  /// A black surface; width and height in units, each at least 0.
+  Surface(int width, int height, int scale = 1);
   Surface(Surface&&) noexcept = default;
   Surface& operator=(Surface&&) noexcept = default;
 
@@ -30,10 +33,19 @@ class Surface {
   int height() const { return height_; }
   Rect bounds() const { return {0, 0, width_, height_}; }
   bool empty() const { return width_ == 0 || height_ == 0; }
-  /// Bytes from one row to the next.
-  std::size_t stride() const { return stride_; }
 
-  /// The first byte of row y, 0 <= y < height().
+  /// Pixels to a unit. Whoever draws single pixels gets their places from `inPixels`: nothing else
+  /// makes pixels of units.
+  int scale() const { return scale_; }
+  Point inPixels(Point units) const { return {units.x * scale_, units.y * scale_}; }
+  Rect inPixels(const Rect& units) const {
+    return {units.left * scale_, units.top * scale_, units.width * scale_, units.height * scale_};
+  }
+  Rect pixelBounds() const { return inPixels(bounds()); }
+
+  /// Bytes from one row of pixels to the next.
+  std::size_t stride() const { return stride_; }
+  /// The first byte of row y of the pixels, 0 <= y < pixelBounds().height.
   std::uint8_t* row(int y) { return pixels_.get() + stride_ * static_cast<std::size_t>(y); }
   const std::uint8_t* row(int y) const {
     return pixels_.get() + stride_ * static_cast<std::size_t>(y);
@@ -44,7 +56,8 @@ class Surface {
   /// Writes one pixel; nothing outside the surface.
   void setPixel(int x, int y, Color color);
   /// Fills the part of a rectangle that lies on the surface.
-  void fill(const Rect& rect, Color color);
+  void fill(const Rect& rect, Color color) { fillPixels(inPixels(rect), color); }
+  void fillPixels(const Rect& pixels, Color color);
   void clear(Color color = kBlack) { fill(bounds(), color); }
   /// A copy of the whole surface.
   Surface clone() const;
@@ -52,11 +65,12 @@ class Surface {
  private:
   int width_ = 0;
   int height_ = 0;
+  int scale_ = 1;
   std::size_t stride_ = 0;
   std::unique_ptr<std::uint8_t[]> pixels_;
 };
 
-/// Copies width x height pixels of `source` from (sourceX, sourceY) to (x, y) of `target` with one of
+/// Copies width x height units of `source` from (sourceX, sourceY) to (x, y) of `target` with one of
 /// the raster operations above. An unknown operation does nothing. Source and target must differ.
 void BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
             int sourceX, int sourceY, std::uint32_t operation);

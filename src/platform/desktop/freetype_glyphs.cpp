@@ -2,6 +2,7 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 #include FT_MODULE_H
+#include FT_OUTLINE_H
 
 #include <cstring>
 
@@ -23,9 +24,11 @@ class FreeTypeGlyphs : public Glyphs {
 
   /// Null, or what is wrong.
   const char* open(const std::string& path);
-  bool render(char32_t code, int pixels, Glyph& into) override;
+  bool render(char32_t code, int height, int scale, Glyph& into) override;
 
  private:
+  bool load(FT_UInt index, int pixels);
+
   FT_Library library_ = nullptr;
   FT_Face face_ = nullptr;
   int pixels_ = 0;  // the letter height that the face is set to
@@ -43,18 +46,29 @@ const char* FreeTypeGlyphs::open(const std::string& path) {
   return nullptr;
 }
 
-bool FreeTypeGlyphs::render(char32_t code, int pixels, Glyph& into) {
+bool FreeTypeGlyphs::load(FT_UInt index, int pixels) {
   if (pixels_ != pixels) {
     FT_Set_Pixel_Sizes(face_, 0, static_cast<FT_UInt>(pixels));
     pixels_ = pixels;
   }
+  return FT_Load_Glyph(face_, index, FT_LOAD_TARGET_NORMAL) == 0;
+}
+
+bool FreeTypeGlyphs::render(char32_t code, int height, int scale, Glyph& into) {
   const FT_UInt index = FT_Get_Char_Index(face_, code);
-  if (index == 0 || FT_Load_Glyph(face_, index, FT_LOAD_RENDER | FT_LOAD_TARGET_NORMAL) != 0 ||
+  if (index == 0 || !load(index, height)) return false;
+  into.advance = static_cast<int>((face_->glyph->advance.x + 32) >> 6);
+  if (scale > 1) {
+    if (!load(index, height * scale)) return false;
+    // The advance was rounded at a scale of 1. What that added or took goes to both sides alike.
+    const FT_Pos own = face_->glyph->linearHoriAdvance >> 10;
+    FT_Outline_Translate(&face_->glyph->outline, (into.advance * scale * 64 - own) / 2, 0);
+  }
+  if (FT_Render_Glyph(face_->glyph, FT_RENDER_MODE_NORMAL) != 0 ||
       face_->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY) {
     return false;
   }
   const FT_Bitmap& bitmap = face_->glyph->bitmap;
-  into.advance = static_cast<int>((face_->glyph->advance.x + 32) >> 6);
   into.left = face_->glyph->bitmap_left;
   into.top = face_->glyph->bitmap_top;
   into.width = static_cast<int>(bitmap.width);

@@ -21,7 +21,7 @@ struct Rows {
 /// Decodes a file. `buffer` is given the head of the picture; it sets the format wanted and answers
 /// with the memory for the pixels.
 template <typename Buffer>
-bool decode(const std::string& path, std::string& error, Buffer buffer) {
+bool decode(const std::string& path, int scale, std::string& error, Buffer buffer) {
   std::FILE* file = std::fopen(path.c_str(), "rb");
   if (file == nullptr) {
     error = path + ": " + std::strerror(errno);
@@ -32,6 +32,12 @@ bool decode(const std::string& path, std::string& error, Buffer buffer) {
   bool good = png_image_begin_read_from_stdio(&image, file) != 0;
   if (good && (image.width > kLargestSide || image.height > kLargestSide)) {
     std::snprintf(image.message, sizeof image.message, "larger than 4096 x 4096 pixels");
+    good = false;
+  }
+  const auto divisor = static_cast<png_uint_32>(scale);
+  if (good && (image.width % divisor != 0 || image.height % divisor != 0)) {
+    std::snprintf(image.message, sizeof image.message, "not a multiple of %d pixels each way",
+                  scale);
     good = false;
   }
   if (good) {
@@ -45,9 +51,9 @@ bool decode(const std::string& path, std::string& error, Buffer buffer) {
 }
 
 /// Reads a file as rows of red, green, blue, alpha bytes without padding.
-bool readRgba(const std::string& path, std::vector<std::uint8_t>& into, Size& size,
+bool readRgba(const std::string& path, int scale, std::vector<std::uint8_t>& into, Size& size,
               std::string& error) {
-  return decode(path, error, [&](png_image& image) {
+  return decode(path, scale, error, [&](png_image& image) {
     image.format = PNG_FORMAT_RGBA;
     into.resize(PNG_IMAGE_SIZE(image));
     size = {static_cast<int>(image.width), static_cast<int>(image.height)};
@@ -66,13 +72,15 @@ void eachPixel(const std::vector<std::uint8_t>& rgba, Size size, Put put) {
 
 }  // namespace
 
-bool readPng(const std::string& path, Surface& into, std::string& error) {
+bool readPng(const std::string& path, Surface& into, std::string& error, int scale) {
   // A picture without alpha goes straight into the surface. One with alpha would be blended with a
   // background on that way, where its colours are wanted as they are.
   std::vector<std::uint8_t> rgba;
   Surface read;
-  const bool good = decode(path, error, [&](png_image& image) {
-    read = Surface(static_cast<int>(image.width), static_cast<int>(image.height));
+  Size size;
+  const bool good = decode(path, scale, error, [&](png_image& image) {
+    size = {static_cast<int>(image.width), static_cast<int>(image.height)};
+    read = Surface(size.width / scale, size.height / scale, scale);
     if ((image.format & PNG_FORMAT_FLAG_ALPHA) == 0) {
       image.format = PNG_FORMAT_RGB;
       return Rows{read.row(0), static_cast<int>(read.stride())};
@@ -83,19 +91,20 @@ bool readPng(const std::string& path, Surface& into, std::string& error) {
   });
   if (!good) return false;
   if (!rgba.empty()) {
-    eachPixel(rgba, {read.width(), read.height()},
+    eachPixel(rgba, size,
               [&](int x, int y, const std::uint8_t* p) { std::memcpy(read.row(y) + x * 3, p, 3); });
   }
   into = std::move(read);
   return true;
 }
 
-bool readPngPair(const std::string& path, Surface& onWhite, Surface& onBlack, std::string& error) {
+bool readPngPair(const std::string& path, Surface& onWhite, Surface& onBlack, std::string& error,
+                 int scale) {
   std::vector<std::uint8_t> rgba;
   Size size;
-  if (!readRgba(path, rgba, size, error)) return false;
-  Surface white(size.width, size.height);
-  Surface black(size.width, size.height);
+  if (!readRgba(path, scale, rgba, size, error)) return false;
+  Surface white(size.width / scale, size.height / scale, scale);
+  Surface black(size.width / scale, size.height / scale, scale);
   white.clear(kWhite);
   eachPixel(rgba, size, [&](int x, int y, const std::uint8_t* p) {
     if (p[3] < 128) return;
@@ -111,7 +120,7 @@ bool readPngRgba(const std::string& path, std::vector<std::uint8_t>& into, Size&
                  std::string& error) {
   std::vector<std::uint8_t> rgba;
   Size read;
-  if (!readRgba(path, rgba, read, error)) return false;
+  if (!readRgba(path, 1, rgba, read, error)) return false;
   into = std::move(rgba);
   size = read;
   return true;
@@ -125,8 +134,8 @@ bool writePng(const std::string& path, const Surface& surface, std::string& erro
   }
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
-  image.width = static_cast<png_uint_32>(surface.width());
-  image.height = static_cast<png_uint_32>(surface.height());
+  image.width = static_cast<png_uint_32>(surface.pixelBounds().width);
+  image.height = static_cast<png_uint_32>(surface.pixelBounds().height);
   image.format = PNG_FORMAT_RGB;
   const bool written =
       png_image_write_to_stdio(&image, file, 0, surface.row(0),
