@@ -99,7 +99,7 @@ std::string inWords(Size size) {
   return std::to_string(size.width) + " x " + std::to_string(size.height);
 }
 
-bool load(PictureSet& set, const PictureFile& file, const std::string& path, std::string& error) {
+bool read(PictureSet& set, const PictureFile& file, const std::string& path, std::string& error) {
   const auto n = static_cast<std::size_t>(file.number);
   switch (file.kind) {
     case pair:
@@ -118,24 +118,31 @@ bool load(PictureSet& set, const PictureFile& file, const std::string& path, std
 
 }  // namespace
 
+PictureSet::PictureSet() {
+  picTile[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height);
+  picMask[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height);
+}
+
 std::span<const PictureFile> pictureFiles() {
   return kFiles;
 }
 
+bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& folder,
+                 std::string& error) {
+  const std::string path = pathOf(file, folder);
+  if (!read(set, file, path, error)) return false;
+  const auto n = static_cast<std::size_t>(file.number);
+  const platform::Surface& loaded = file.kind == mask ? set.picMask[n] : set.picTile[n];
+  const Size size{loaded.width(), loaded.height()};
+  if (size == file.size) return true;
+  error = path + ": is " + inWords(size) + " pixels, not " + inWords(file.size);
+  return false;
+}
+
 bool loadPictures(PictureSet& set, const std::string& folder, std::string& error) {
   for (const PictureFile& file : kFiles) {
-    const std::string path = pathOf(file, folder);
-    if (!load(set, file, path, error)) return false;
-    const auto n = static_cast<std::size_t>(file.number);
-    const platform::Surface& loaded = file.kind == mask ? set.picMask[n] : set.picTile[n];
-    const Size size{loaded.width(), loaded.height()};
-    if (size != file.size) {
-      error = path + ": is " + inWords(size) + " pixels, not " + inWords(file.size);
-      return false;
-    }
+    if (!loadPicture(set, file, folder, error)) return false;
   }
-  set.picTile[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height);
-  set.picMask[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height);
   return true;
 }
 

@@ -18,6 +18,8 @@ inline constexpr int kPictures = 63;  // numbers 0 .. 62
 struct PictureSet {
   std::array<platform::Surface, kPictures> picTile;
   std::array<platform::Surface, kPictures> picMask;
+
+  PictureSet();
 };
 
 /// Where the file of a picture stands below the folder of the map pictures, and which of the two
@@ -36,8 +38,11 @@ struct PictureFile {
 /// The files of the whole set.
 std::span<const PictureFile> pictureFiles();
 
-/// Loads the whole set from `folder`. False, with the name of the file and what is wrong in `error`,
-/// when a picture is missing, damaged or of another size.
+/// Loads one file of the set from `folder`. False, with the name of the file and what is wrong in
+/// `error`, when it is missing, damaged or of another size.
+bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& folder,
+                 std::string& error);
+/// The same for the whole set, up to the first file that fails.
 bool loadPictures(PictureSet& set, const std::string& folder, std::string& error);
 
 }  // namespace map

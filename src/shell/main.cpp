@@ -74,7 +74,7 @@ int main() {
   platform::SdlClock clock;
   platform::SdlDisplay display(data + "/pictures/icon.png");
   shell::Assets assets;
-  if (!assets.load(data, error)) {
+  if (!assets.open(data, error)) {
     display.message("Error", error.c_str());
     return 1;
   }
@@ -87,17 +87,17 @@ int main() {
   services.letEventsIn = [&] { takeEvents(events, program, 0); };
 
   program.start();
-  bool soundOpened = false;
+  bool preparing = true;  // the first picture waits neither for the game's nor for the audio device
   while (!program.ended()) {
     const platform::DamageList& changed = program.paint();
     if (!changed.empty()) display.present(program.framebuffer(), changed.rects());
-    if (!soundOpened) {
-      soundOpened = true;  // the first picture need not wait for the audio device
-      media.open();
+    if (preparing) {
+      preparing = program.readAhead();
+      if (!preparing && !program.ended()) media.open();
     }
     const std::int64_t due = program.nextDue();
     const std::int64_t now = clock.milliseconds();
-    takeEvents(events, program, due < 0 ? -1 : due > now ? due - now : 0);
+    takeEvents(events, program, preparing ? 0 : due < 0 ? -1 : due > now ? due - now : 0);
     program.runTimers();
   }
   return program.exitStatus();

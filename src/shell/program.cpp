@@ -14,8 +14,7 @@ Program::Program(Services& services)
       speaker_(services.media, services.programFolder),
       desk_(*services.assets.font),
       painter_(*services.assets.font),
-      framebuffer_(platform::kScreenWidth, platform::kScreenHeight),
-      canvas_(kMapSurface.width, kMapSurface.height) {}
+      framebuffer_(platform::kScreenWidth, platform::kScreenHeight) {}
 
 Program::~Program() {
   desk_.open(nullptr, nullptr);
@@ -31,7 +30,20 @@ void Program::open(std::unique_ptr<Screen> screen) {
   desk_.open(screen_ ? &screen_->form() : nullptr, screen_.get());
 }
 
+bool Program::readAhead() {
+  if (ended_ || services_.assets.complete()) return false;
+  std::string error;
+  if (services_.assets.readNext(error)) return true;
+  services_.display.message("Error", error.c_str());
+  end(1);
+  return false;
+}
+
 void Program::openGame() {
+  while (readAhead()) {
+  }
+  if (ended_) return;
+  if (canvas_.surface().empty()) canvas_ = platform::Canvas(kMapSurface.width, kMapSurface.height);
   auto game = std::make_unique<GameScreen>(*this);
   GameScreen& opened = *game;
   const bool cityTakenOver = opened.load();

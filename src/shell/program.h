@@ -39,6 +39,11 @@ class Program {
   /// To be called after every event that was given to the desk: lets go of screens that were closed.
   void settle();
 
+  /// Reads a little more of what the game screen needs, and returns whether more is left. To be called
+  /// while the menu waits; what is still missing when a game opens is read then. A file that cannot be
+  /// read ends the program with a message.
+  bool readAhead();
+
   /// Brings the framebuffer up to date; returns what changed.
   const platform::DamageList& paint();
   const platform::Surface& framebuffer() const { return framebuffer_; }

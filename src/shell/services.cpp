@@ -6,26 +6,36 @@
 
 namespace shell {
 
-bool ImageSet::load(const std::string& folder, std::string& error) {
-  std::vector<std::pair<const char*, platform::Size>> wanted{
-      {kMenuBackground, {platform::kScreenWidth, platform::kScreenHeight}}};
-  for (const auto table : {core::gameControls(), menuControls()}) {
-    for (const platform::ControlDesign& row : table) {
-      if (row.image != nullptr) wanted.push_back({row.image, {row.place.width, row.place.height}});
-    }
+bool ImageSet::load(const std::string& folder, const char* name, platform::Size largest,
+                    std::string& error) {
+  if (images_.contains(name)) return true;
+  platform::Surface surface;
+  const std::string path = folder + "/" + name + ".png";
+  if (!platform::readPng(path, surface, error)) return false;
+  if (surface.width() > largest.width || surface.height() > largest.height) {
+    error = path + ": the picture is larger than its place";
+    return false;
   }
-  for (const auto& [name, size] : wanted) {
-    if (images_.contains(name)) continue;
-    platform::Surface surface;
-    const std::string path = folder + "/" + name + ".png";
-    if (!platform::readPng(path, surface, error)) return false;
-    if (surface.width() > size.width || surface.height() > size.height) {
-      error = path + ": the picture is larger than its place";
-      return false;
-    }
-    images_.emplace(name, std::move(surface));
+  images_.emplace(name, std::move(surface));
+  return true;
+}
+
+bool ImageSet::load(std::span<const platform::ControlDesign> table, const std::string& folder,
+                    std::string& error) {
+  for (const platform::ControlDesign& row : table) {
+    if (row.image == nullptr) continue;
+    if (!load(folder, row.image, {row.place.width, row.place.height}, error)) return false;
   }
   return true;
+}
+
+bool ImageSet::loadMenu(const std::string& folder, std::string& error) {
+  constexpr platform::Size kScreen{platform::kScreenWidth, platform::kScreenHeight};
+  return load(folder, kMenuBackground, kScreen, error) && load(menuControls(), folder, error);
+}
+
+bool ImageSet::loadGame(const std::string& folder, std::string& error) {
+  return load(core::gameControls(), folder, error);
 }
 
 const platform::Surface* ImageSet::find(std::string_view name) const {
@@ -33,10 +43,33 @@ const platform::Surface* ImageSet::find(std::string_view name) const {
   return found == images_.end() ? nullptr : &found->second;
 }
 
-bool Assets::load(const std::string& dataFolder, std::string& error) {
+bool Assets::open(const std::string& dataFolder, std::string& error) {
+  folder_ = dataFolder + "/pictures";
   font = platform::Font::open(dataFolder + "/font.otf", error);
-  return font != nullptr && images.load(dataFolder + "/pictures/panel", error) &&
-         map::loadPictures(pictures, dataFolder + "/pictures", error);
+  return font != nullptr && images.loadMenu(folder_ + "/panel", error);
+}
+
+bool Assets::complete() const {
+  return panelsRead_ && picturesRead_ == map::pictureFiles().size();
+}
+
+bool Assets::readNext(std::string& error) {
+  if (!panelsRead_) {
+    panelsRead_ = images.loadGame(folder_ + "/panel", error);
+    return panelsRead_;
+  }
+  if (complete()) return true;
+  if (!map::loadPicture(pictures, map::pictureFiles()[picturesRead_], folder_, error)) return false;
+  ++picturesRead_;
+  return true;
+}
+
+bool Assets::load(const std::string& dataFolder, std::string& error) {
+  if (!open(dataFolder, error)) return false;
+  while (!complete()) {
+    if (!readNext(error)) return false;
+  }
+  return true;
 }
 
 }  // namespace shell

@@ -4,11 +4,13 @@
 
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "map/picture_set.h"
 #include "platform/clock.h"
+#include "platform/control.h"
 #include "platform/display.h"
 #include "platform/font.h"
 #include "platform/media.h"
@@ -19,23 +21,43 @@ namespace shell {
 /// The pictures of panels and screens, by the name of their file.
 class ImageSet {
  public:
-  /// Loads every picture that the two screens name from `folder`. False, with the file's name and what
-  /// is wrong in `error`.
-  bool load(const std::string& folder, std::string& error);
+  /// Loads the pictures that the menu names from `folder`, or those that the game screen names; what
+  /// is there already is kept. False, with the file's name and what is wrong in `error`.
+  bool loadMenu(const std::string& folder, std::string& error);
+  bool loadGame(const std::string& folder, std::string& error);
   /// Null where there is none of that name.
   const platform::Surface* find(std::string_view name) const;
 
  private:
+  bool load(std::span<const platform::ControlDesign> table, const std::string& folder,
+            std::string& error);
+  bool load(const std::string& folder, const char* name, platform::Size largest,
+            std::string& error);
+
   std::map<std::string, platform::Surface, std::less<>> images_;
 };
 
-/// Everything that is read from the data folder before the program starts.
-struct Assets {
+/// Everything that is read from the data folder. The menu needs a quarter of it: the rest is read
+/// piece by piece behind its first picture.
+class Assets {
+ public:
   std::unique_ptr<platform::Font> font;
   map::PictureSet pictures;
   ImageSet images;
 
+  /// Reads what the menu shows. False, with the file's name and what is wrong in `error`.
+  bool open(const std::string& dataFolder, std::string& error);
+  /// Whether the pictures of the game are all there.
+  bool complete() const;
+  /// Reads the next piece of them, a few milliseconds of work. False as for `open`.
+  bool readNext(std::string& error);
+  /// Reads everything at once.
   bool load(const std::string& dataFolder, std::string& error);
+
+ private:
+  std::string folder_;
+  bool panelsRead_ = false;
+  std::size_t picturesRead_ = 0;
 };
 
 struct Services {

@@ -1,6 +1,7 @@
 #include "toolkit_fixture.h"
 
 #include "platform/layout.h"
+#include "platform/wrap_columns.h"
 
 namespace platform {
 namespace {
@@ -60,6 +61,13 @@ TEST(Wrapping, IsGreedyAtBlanksKeepsLeadingOnesAndCutsWhatIsLongerThanALine) {
   EXPECT_EQ(all, "abcdefghijklmnopqrstuvwxyz");
   EXPECT_LE(testFont().width(cut[0], FontSize::pt11), 50);
   EXPECT_EQ(wrapped("\xC3\xA9z", 0).size(), 2u) << "always gets on";
+}
+
+TEST(Wrapping, ByCharactersBreaksAtBlanksAndCutsLongWordsBetweenCharacters) {
+  EXPECT_EQ(wrapColumns("one two three", 7), "one two\nthree");
+  EXPECT_EQ(wrapColumns("one two\n three", 6), "one\ntwo\n three");
+  EXPECT_EQ(wrapColumns("a /very/long/path", 6), "a\n/very/\nlong/p\nath");
+  EXPECT_EQ(wrapColumns("\xC3\xA9\xC3\xA9\xC3\xA9", 2), "\xC3\xA9\xC3\xA9\n\xC3\xA9");
 }
 
 }  // namespace

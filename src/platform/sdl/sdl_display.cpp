@@ -11,12 +11,14 @@
 #include "platform/png.h"
 #include "platform/sdl/hush.h"
 #include "platform/sdl/window_manager.h"
+#include "platform/wrap_columns.h"
 
 namespace platform {
 
 namespace {
 
 constexpr const char* kTitle = "Vellmoran";
+constexpr int kMessageColumns = 72;
 constexpr Size kPicture{kScreenWidth, kScreenHeight};
 
 bool isByte(Uint32 mask) {
@@ -26,6 +28,13 @@ bool isByte(Uint32 mask) {
 bool wholeBytes(const SDL_PixelFormat& format) {
   return format.BytesPerPixel == 4 && isByte(format.Rmask) && isByte(format.Gmask) &&
          isByte(format.Bmask);
+}
+
+// The player looks where the pointer is.
+int monitorOfPointer() {
+  SDL_Point pointer{0, 0};
+  SDL_GetGlobalMouseState(&pointer.x, &pointer.y);
+  return std::max(0, SDL_GetPointDisplayIndex(&pointer));
 }
 
 // The largest whole factor that leaves a tenth of the desktop free.
@@ -63,19 +72,14 @@ bool SdlDisplay::startVideo() {
     videoStarted_ = false;
     return false;
   }
-  // Straight to the window: a renderer behind the window's surface costs a tenth of a second at the
-  // start and a hundred megabytes. Only X has such a surface of its own.
-  if (driver == "x11") {
-    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-    managed_ = windowManagerRuns();
-  }
+  if (driver == "x11") managed_ = windowManagerRuns();
   return true;
 }
 
 Size SdlDisplay::size() {
   if (window_ != nullptr) return kPicture;
   SDL_DisplayMode mode{};
-  if (!startVideo() || SDL_GetDesktopDisplayMode(0, &mode) != 0) return {};
+  if (!startVideo() || SDL_GetDesktopDisplayMode(monitorOfPointer(), &mode) != 0) return {};
   return {mode.w, mode.h};
 }
 
@@ -85,19 +89,31 @@ int SdlDisplay::change(Size size) {
     return 0;
   }
   if (window_ != nullptr) return 0;
-  if (startVideo() && openWindow()) return 0;
+  if (startVideo() && openAnyWindow()) return 0;
   std::fprintf(stderr, "vellmoran: no window: %s\n", failure_.c_str());
   return -1;
 }
 
+bool SdlDisplay::openAnyWindow() {
+  // Straight to the window: a renderer behind the window's surface costs a tenth of a second at the
+  // start and a hundred megabytes. Only X has such a surface of its own.
+  const bool straight = std::string_view(SDL_GetCurrentVideoDriver()) == "x11";
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, straight ? "0" : nullptr);
+  if (openWindow()) return true;
+  // There is no such surface for a display of 10 bits a channel; a renderer can still serve it.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, nullptr);
+  return straight && openWindow();
+}
+
 bool SdlDisplay::openWindow() {
   SDL_Rect desktop{0, 0, kScreenWidth, kScreenHeight};
-  SDL_GetDisplayBounds(0, &desktop);
+  const int monitor = monitorOfPointer();
+  SDL_GetDisplayBounds(monitor, &desktop);
   windowed_ = windowedSize({desktop.w, desktop.h});
   if (managed_) {
-    window_ =
-        SDL_CreateWindow(kTitle, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, windowed_.width,
-                         windowed_.height, SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
+    window_ = SDL_CreateWindow(
+        kTitle, SDL_WINDOWPOS_CENTERED_DISPLAY(monitor), SDL_WINDOWPOS_CENTERED_DISPLAY(monitor),
+        windowed_.width, windowed_.height, SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
   } else {
     window_ =
         SDL_CreateWindow(kTitle, desktop.x, desktop.y, desktop.w, desktop.h, SDL_WINDOW_BORDERLESS);
@@ -228,7 +244,8 @@ void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> chang
 void SdlDisplay::message(const char* title, const char* text) {
   std::fprintf(stderr, "%s: %s\n", title, text);
   const Hush hush;
-  SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, title, text, window_);
+  SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, title, wrapColumns(text, kMessageColumns).c_str(),
+                           window_);
 }
 
 }  // namespace platform

@@ -40,6 +40,7 @@ class SdlDisplay : public Display {
 
  private:
   bool startVideo();
+  bool openAnyWindow();
   bool openWindow();
   void closeWindow();
   void setIcon();

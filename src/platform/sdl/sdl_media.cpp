@@ -1,13 +1,13 @@
 #include "platform/sdl/sdl_media.h"
 
 #include <SDL.h>
-#include <SDL_mixer.h>
 #include <sys/stat.h>
 
 #include <cstdio>
 
 #include "platform/files.h"
 #include "platform/sdl/hush.h"
+#include "platform/sdl/mixer.h"
 
 namespace platform {
 
@@ -43,10 +43,10 @@ bool isSoundFont(const char* path) {
 
 // A device that plays, or silence for good: with a make-believe device the music would be worked
 // out and thrown away.
-bool openDevice() {
+bool openDevice(const Mixer& mixer) {
   const Hush hush;
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
-  if (Mix_OpenAudio(kRate, MIX_DEFAULT_FORMAT, 2, kBuffer) == 0) return true;
+  if (mixer.openAudio(kRate, MIX_DEFAULT_FORMAT, 2, kBuffer) == 0) return true;
   SDL_QuitSubSystem(SDL_INIT_AUDIO);
   return false;
 }
@@ -63,28 +63,29 @@ SdlMedia::SdlMedia(std::string programFolder, std::string soundFolder)
 
 SdlMedia::~SdlMedia() {
   closeMusic();
-  if (!open_) return;
-  Mix_HaltChannel(-1);
+  if (mixer_ == nullptr) return;
+  mixer_->haltChannel(-1);
   for (const auto& [name, chunk] : cues_) {
-    if (chunk != nullptr) Mix_FreeChunk(chunk);
+    if (chunk != nullptr) mixer_->freeChunk(chunk);
   }
-  Mix_CloseAudio();
+  mixer_->closeAudio();
   SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 void SdlMedia::open() {
   if (asked_) return;
   asked_ = true;
-  if (!openDevice()) {
+  const Mixer* const mixer = Mixer::open();
+  if (mixer == nullptr || !openDevice(*mixer)) {
     std::fprintf(stderr, "vellmoran: no sound: %s\n", SDL_GetError());
     return;
   }
-  open_ = true;
-  Mix_AllocateChannels(2);
-  Mix_VolumeMusic(kMusicVolume);
+  mixer_ = mixer;
+  mixer_->allocateChannels(2);
+  mixer_->volumeMusic(kMusicVolume);
   for (const char* font : kSoundFonts) {
     if (!isSoundFont(font)) continue;
-    Mix_SetSoundFonts(font);
+    mixer_->setSoundFonts(font);
     fontFound_ = true;
     break;
   }
@@ -106,21 +107,22 @@ Mix_Chunk* SdlMedia::cue(std::string_view path) {
   const std::string_view name = fileName(path);
   if (const auto known = cues_.find(name); known != cues_.end()) return known->second;
   const std::string file = find(name);
-  Mix_Chunk* const chunk = file.empty() ? nullptr : Mix_LoadWAV(file.c_str());
+  Mix_Chunk* const chunk =
+      file.empty() ? nullptr : mixer_->loadWavRw(SDL_RWFromFile(file.c_str(), "rb"), 1);
   cues_.emplace(name, chunk);
   return chunk;
 }
 
 bool SdlMedia::sndPlaySoundA(std::string_view path, int) {
   open();
-  if (!open_) return false;
+  if (mixer_ == nullptr) return false;
   Mix_Chunk* const chunk = cue(path);
   // The cue that sounds dies away on its own channel while the new one begins on the other: cut off
   // hard, it would tick.
-  if (Mix_Playing(channel_) != 0) Mix_FadeOutChannel(channel_, kFade);
+  if (mixer_->playing(channel_) != 0) mixer_->fadeOutChannel(channel_, kFade);
   if (chunk == nullptr) return false;
   channel_ = 1 - channel_;
-  return Mix_PlayChannel(channel_, chunk, 0) >= 0;
+  return mixer_->playChannelTimed(channel_, chunk, 0, -1) >= 0;
 }
 
 int SdlMedia::mciSendStringA(std::string_view command) {
@@ -131,7 +133,7 @@ int SdlMedia::mciSendStringA(std::string_view command) {
     return 0;
   }
   if (command == "play canyon") {
-    return music_ != nullptr && Mix_PlayMusic(music_, 1) == 0 ? 0 : 1;
+    return music_ != nullptr && mixer_->playMusic(music_, 1) == 0 ? 0 : 1;
   }
   if (command.starts_with(kOpen) && command.ends_with(kSequencer) &&
       command.size() > kOpen.size() + kSequencer.size()) {
@@ -144,16 +146,16 @@ int SdlMedia::mciSendStringA(std::string_view command) {
 
 bool SdlMedia::openMusic(std::string_view path) {
   open();
-  if (!open_ || !fontFound_ || music_ != nullptr) return false;
+  if (mixer_ == nullptr || !fontFound_ || music_ != nullptr) return false;
   const std::string file = find(path);
-  if (!file.empty()) music_ = Mix_LoadMUS(file.c_str());
+  if (!file.empty()) music_ = mixer_->loadMusic(file.c_str());
   return music_ != nullptr;
 }
 
 void SdlMedia::closeMusic() {
   if (music_ == nullptr) return;
-  Mix_HaltMusic();
-  Mix_FreeMusic(music_);
+  mixer_->haltMusic();
+  mixer_->freeMusic(music_);
   music_ = nullptr;
 }
 

@@ -14,6 +14,8 @@ typedef struct _Mix_Music Mix_Music;  // NOLINT: the name is the library's
 
 namespace platform {
 
+struct Mixer;
+
 class SdlMedia : public Media {
  public:
   /// A theme or cue is looked for by its bare file name: in `programFolder`, then in `soundFolder`.
@@ -22,8 +24,8 @@ class SdlMedia : public Media {
   SdlMedia(const SdlMedia&) = delete;
   SdlMedia& operator=(const SdlMedia&) = delete;
 
-  /// Opens the device and loads the cues `sound1.wav` to `sound4.wav`. To be called once the first
-  /// picture stands, which need not wait for it; a first sound opens by itself.
+  /// Opens the device and loads the cues `sound1.wav` to `sound4.wav`. To be called while
+  /// the menu waits, behind its first picture; a first sound opens by itself.
   void open();
 
   bool sndPlaySoundA(std::string_view path, int flags) override;
@@ -40,8 +42,8 @@ class SdlMedia : public Media {
   std::map<std::string, Mix_Chunk*, std::less<>> cues_;  // by file name; null for one that failed
   Mix_Music* music_ = nullptr;
   int channel_ = 0;
-  bool asked_ = false;  // the device has been asked for
-  bool open_ = false;
+  const Mixer* mixer_ = nullptr;  // null while there is no device
+  bool asked_ = false;            // the device has been asked for
   bool fontFound_ = false;
 };
 
