@@ -57,9 +57,4 @@ void paintBackdrop(Stage& stage) {
   if (stage.values.gMission < 4) ++stage.game.blitCount;
 }
 
-void openBackdrop(Stage& stage) {
-  paintBackdrop(stage);
-  if (!backdropOf(stage.values.gMission).empty()) stage.canvas.refresh();
-}
-
 }  // namespace map

@@ -45,8 +45,6 @@ void DrawTiles3(Stage& stage, const CellGeometry& geometry);
 
 /// The backdrop of the mission without a refresh; its first group counts one blit.
 void paintBackdrop(Stage& stage);
-/// The backdrop as the opening of the game screen paints it: one refresh after each group painted.
-void openBackdrop(Stage& stage);
 
 /// Repaints the tall cells with x >= firstX and y >= firstY, up to the last of the board; counts two
 /// blits for each.

@@ -163,7 +163,8 @@ void GameScreen::onMouseMove(int id, int x, int y) {
 }
 
 void GameScreen::onMouseDown(int id, int x, int y) {
-  if (id == ui::picScroll) play::pressMap(scene_, x, y);
+  // While a load is chosen or waits, the blank map is as deaf as it is bare.
+  if (id == ui::picScroll && !stage_.canvas.isBlank()) play::pressMap(scene_, x, y);
 }
 
 void GameScreen::onClick(int id) {

@@ -108,7 +108,7 @@ void prepareLoadScreen(GameScreen& screen) {
   scene.timers.disable(timer::Timer5);
   scene.timers.disable(timer::Timer6);
   drawFirstCoat(screen);
-  scene.stage.canvas.clear();
+  scene.stage.canvas.blank();
   refreshFileList(screen, ui::File1);
   scene.form.centre(ui::frameload);
   scene.form.show(ui::frameload);
@@ -132,7 +132,8 @@ bool openGameScreen(GameScreen& screen) {
   if (!continueCity(screen)) return false;
   startNewGame(screen);
   prepareLoadScreen(screen);
-  map::openBackdrop(scene.stage);
+  // The backdrop, and before it the roofs of a city that was taken over, or the walls of a castle.
+  if (scene.values.gMission < core::kOpenPlay) map::DrawTiles2(scene.stage, map::kTallCells);
   return true;
 }
 

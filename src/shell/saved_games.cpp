@@ -140,7 +140,7 @@ void clickLoad(GameScreen& screen) {
     scene.form.hide(ui::Frame21);
     scene.timers.disable(timer::Timer14);
   }
-  scene.stage.canvas.clear();
+  scene.stage.canvas.blank();
   if (scene.values.gLoadPending == 1) startAutoPlay(screen);
   scene.timers.enable(timer::Timer3);
   for (const int panel : {ui::Frame14, ui::frameload, ui::Frame6, ui::tileinfo, ui::Frame2}) {
@@ -196,6 +196,7 @@ void finishLoad(GameScreen& screen) {
   play::hideCursor(scene);
   store::applyRecord(*screen.waitingRecord(), game, scene.values);
   screen.waitingRecord().reset();
+  scene.stage.canvas.clear();
   rebuildLoadedCity(screen);
   scene.values.gLoadPending = 0;
   scene.timers.enable(timer::Timer2);

@@ -59,7 +59,7 @@ TEST(Renderer, BackdropsAreOredOnceAndForAll) {
         std::tuple{10, Rect{508, 254, 965, 293}, 0}, std::tuple{7, Rect{}, 0}}) {
     MadeUpCity city;
     city.values.gMission = mission;
-    openBackdrop(city.stage);
+    DrawTiles2(city.stage, kTallCells);
     EXPECT_EQ(drawnBox(city.canvas.surface()), box) << mission;
     EXPECT_EQ(city.game.blitCount, counted) << mission;
     EXPECT_EQ(city.canvas.shown().empty(), box.empty());

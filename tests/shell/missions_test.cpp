@@ -1,7 +1,9 @@
 // Each mission and each puzzle, won and lost at its judgement, on both sides of every comparison.
 #include <gtest/gtest.h>
 
+#include "platform/pixels.h"
 #include "scenario/missions.h"
+#include "shell/game_screen.h"
 #include "shell/script_runner.h"
 
 namespace {
@@ -102,6 +104,22 @@ TEST(Missions, AreLostWhenAnythingFallsShort) {
   }
 }
 
+/// Whether the next redraw of the map finds nothing to mend.
+bool mapIsClean(Play& play) {
+  auto& screen = static_cast<shell::GameScreen&>(*play.session().program().screen());
+  const platform::Surface seen = screen.canvas()->surface().clone();
+  map::DrawTiles2(screen.scene().stage, map::kTallCells);
+  return same(seen, screen.canvas()->surface());
+}
+
+TEST(Missions, ACastleOpensWithItsFrontWallsWhole) {
+  Play play;
+  play.write("config.dat", "9,0,0,0,0,0,0,0,0,0,0,0\r\n");
+  play.restart();
+  play.run("click mainnew\nclick stcampaign\nclick Label6 8\nclick Command14\nadvance 500");
+  EXPECT_TRUE(mapIsClean(play));
+}
+
 TEST(Missions, TheCityGoesOnWithItsPaymentAndAnEmptyBook) {
   struct Continued {
     int mission;
@@ -121,12 +139,21 @@ TEST(Missions, TheCityGoesOnWithItsPaymentAndAnEmptyBook) {
     // A small city is saved under the name of the hand-over file.
     play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
     play.run("press @15,15\nclick Command1 0\npress @16,15\nset gMission " + number);
+    // A market at the far edge of the mission's square, whose roof rises over the backdrop.
+    const int size = scenario::mission(mission).mapSize;
+    const auto cell = [&](int x, int y) {
+      return "press @" + std::to_string(x + (30 - size) / 2) + "," +
+             std::to_string(y + (30 - size) / 2);
+    };
+    play.run("set gMapSize " + std::to_string(size));
+    play.run("click Command1 7\n" + cell(5, 1) + "\nclick Command1 1\n" + cell(6, 0));
     play.run("set gYear 1750\nset food 5000\nset gold 7000\nset historyIndex 7\nset month 5");
     play.run("set toolUnlocked 1 1\nclick gmmenu\nclick savegame\nclick txtsavename\ntype city");
     play.run("click cmdsave\nclick gmmenu\nclick Command19");
     play.write("mission" + number + ".dat", play.file("city.sav"));
     play.run("click mainnew\nclick stcampaign\nclick Label6 " + std::to_string(mission - 1));
     play.run("click Command14\nadvance 500");
+    EXPECT_TRUE(mapIsClean(play));
     EXPECT_EQ(play("get food"), std::string("ok ") + food);
     EXPECT_EQ(play("get gold"), std::string("ok ") + gold);
     EXPECT_EQ(play("get gYear"), std::string("ok ") + year);

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "core/game_controls.h"
+#include "platform/pixels.h"
 #include "platform/timers.h"
 #include "shell/script_runner.h"
 #include "store/record.h"
@@ -112,6 +113,28 @@ TEST(SavedGames, ThatCannotBeReadLeaveTheRunningGameUntouched) {
     EXPECT_EQ(play("get gold"), "ok 580");
     play.run("click gmmenu\nclick Command19");
   }
+}
+
+TEST(SavedGames, AreLoadedOnABareScreenThatIsDeaf) {
+  Play play;
+  openTown(play);
+  play.run("click Command1 8\npress @10,10");
+  save(play, "town");
+  const auto waits = [&play](int milliseconds) {
+    // Presses where the town was, and a field that grows.
+    play.run("press 100 300\nset tickOfMonth 10\nadvance " + std::to_string(milliseconds));
+    const platform::Surface& map = play.session().program().screen()->canvas()->surface();
+    EXPECT_TRUE(same(map, platform::Surface(map.width(), map.height())));
+    EXPECT_FALSE(form(play)[ui::haber].visible);
+  };
+  play.run("advance 3600\nclick gmmenu\nclick ldgame\nchoose File1 town.sav\nclick cmdload");
+  waits(499);
+  play.run("advance 1");
+  EXPECT_EQ(play("get tileCode 16 15"), "ok 11");
+  play.run("click gmmenu\nclick Command19\nclick mainload\nadvance 500");
+  waits(5000);
+  play.run("choose File1 town.sav\nclick cmdload");
+  waits(499);
 }
 
 }  // namespace
