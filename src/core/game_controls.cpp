@@ -297,4 +297,11 @@ std::span<const ControlDesign> gameControls() {
   return kTable;
 }
 
+platform::Rect paletteKey(int index) {
+  constexpr Rect kKeys[] = {{76, 102, 66, 23}, {76, 134, 66, 23}, {76, 166, 66, 23},
+                            {76, 198, 66, 23}, {4, 166, 66, 23},  {4, 198, 66, 23},
+                            {4, 229, 138, 22}, {4, 102, 66, 23},  {4, 134, 66, 23}};
+  return kKeys[index];
+}
+
 }  // namespace core

@@ -168,4 +168,7 @@ enum Id : int {
 
 std::span<const platform::ControlDesign> gameControls();
 
+/// The key in the palette's picture on which the name of tool `index`, 0..8, is written.
+platform::Rect paletteKey(int index);
+
 }  // namespace core

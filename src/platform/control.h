@@ -80,8 +80,9 @@ struct Control {
   bool checked = false;
   Point from{};  // end points of a line, in pixels of its parent
   Point to{};
-  int rank = 0;  // the higher of two siblings lies in front
-  const Surface* image = nullptr;
+  int rank = 0;                    // the higher of two siblings lies in front
+  const Surface* image = nullptr;  // of an image control; at the right end of a label's line
+  Rect heldKey{};  // of an image: the key in its picture that is held down, or an empty one
   Canvas* canvas = nullptr;
   ListContent* list = nullptr;
 };

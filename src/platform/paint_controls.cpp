@@ -11,6 +11,8 @@ constexpr Color kFace{206, 218, 246};       // of buttons, where the design name
 constexpr Color kFieldEdge{150, 168, 220};  // the ground that text boxes and lists lie in
 constexpr Color kChosen{70, 106, 190};      // the selected entry of a list
 constexpr Color kTitleTint{84, 118, 214};
+constexpr Color kKeyShade{66, 94, 158};
+constexpr Color kKeyLight{190, 214, 250};
 
 Rect inset(const Rect& r, int by) {
   return {r.left + by, r.top + by, r.width - 2 * by, r.height - 2 * by};
@@ -57,10 +59,30 @@ void paintFrame(const Brush& brush, const Control& control, const Rect& place) {
   if (design.heading == Heading::title) paintTitle(brush, control, place);
 }
 
+// A key of a painted plate, pushed in: in the shade, with round corners, its upper and left rim the
+// darkest.
+void paintHeldKey(const Brush& brush, const Rect& place) {
+  const Rect face = inset(place, 1);
+  for (int y = 0; y < face.height; ++y) {
+    const int cut = std::max(0, 2 - std::min(y, face.height - 1 - y));
+    brush.darken({face.left + cut, face.top + y, face.width - 2 * cut, 1});
+  }
+  brush.fill({face.left + 2, face.top, face.width - 4, 1}, kKeyShade);
+  brush.fill({face.left, face.top + 2, 1, face.height - 4}, kKeyShade);
+  brush.fill({face.left + 2, face.bottom(), face.width - 4, 1}, kKeyLight);
+  brush.fill({face.right(), face.top + 2, 1, face.height - 4}, kKeyLight);
+}
+
 void paintLabel(const Brush& brush, const Control& control, const Rect& place) {
   const ControlDesign& design = *control.design;
   if (design.opaque) brush.fill(place, control.back);
   if (control.border) brush.outline(place, mix(design.opaque ? control.back : kFace, kInk, 60));
+  if (control.image != nullptr) {
+    constexpr int kMargin = 6;
+    const int width = control.image->width();
+    brush.picture({place.right() - kMargin - width, place.top, width, place.height},
+                  *control.image);
+  }
   std::string_view text = control.text;
   if (text.empty()) return;
   // A border that comes and goes moves no text.
@@ -197,6 +219,9 @@ void paintControl(const Brush& brush, const Control& control, const Rect& place,
       if (design.opaque) within.fill(place, control.back);
       if (control.image != nullptr) within.picture(place, *control.image);
       if (control.border) within.raised(place, control.back);
+      if (!control.heldKey.empty()) {
+        paintHeldKey(within, moved(control.heldKey, place.left, place.top));
+      }
       break;
     case ControlKind::picture: {
       const Size size = control.canvas == nullptr ? Size{}

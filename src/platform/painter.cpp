@@ -77,6 +77,7 @@ struct Painter::Painted {
   Point from{};
   Point to{};
   const Surface* image = nullptr;
+  Rect heldKey{};
   const Canvas* canvas = nullptr;
   std::uint64_t list = 0;
   Text text;
@@ -128,12 +129,12 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
     }
     control.canvas->shown().clear();
   }
-  const bool same = was.shown && was.clip == clip && was.place == place &&
-                    was.fore == control.fore && was.back == control.back &&
-                    was.border == control.border && was.checked == control.checked &&
-                    was.state == state && was.rank == control.rank && was.from == control.from &&
-                    was.to == control.to && was.image == control.image &&
-                    was.canvas == control.canvas && was.list == list && was.text == control.text;
+  const bool same =
+      was.shown && was.clip == clip && was.place == place && was.fore == control.fore &&
+      was.back == control.back && was.border == control.border && was.checked == control.checked &&
+      was.state == state && was.rank == control.rank && was.from == control.from &&
+      was.to == control.to && was.image == control.image && was.heldKey == control.heldKey &&
+      was.canvas == control.canvas && was.list == list && was.text == control.text;
   if (same) return;
   if (was.shown) damage_.add(was.clip);
   damage_.add(clip);
@@ -149,6 +150,7 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
   was.from = control.from;
   was.to = control.to;
   was.image = control.image;
+  was.heldKey = control.heldKey;
   was.canvas = control.canvas;
   was.list = list;
   was.text.assign(control.text);

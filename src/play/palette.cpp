@@ -5,11 +5,26 @@
 
 namespace play {
 
+namespace {
+
+void takeInHand(Scene& scene, int tool) {
+  scene.game.currentTool = tool;
+  markToolInHand(scene);
+}
+
+}  // namespace
+
+void markToolInHand(Scene& scene) {
+  const int tool = scene.game.currentTool.whole();
+  scene.form[ui::Image6].heldKey =
+      tool == core::kInfoTool ? platform::Rect{} : core::paletteKey(tool - 1);
+}
+
 void selectTool(Scene& scene, int index) {
   const int tool = index + 1;
   const core::ToolDesign& design = core::toolDesign(tool);
   scene.cue(sound::kTool);
-  scene.game.currentTool = tool;
+  takeInHand(scene, tool);
   scene.text(ui::buildcurrent).assign(design.current);
   scene.text(ui::buildprice).assign(design.priceText);
   scene.game.cursorFootprint = design.footprint;
@@ -23,7 +38,7 @@ void enterBuildMode(Scene& scene) {
   scene.text(ui::Label4).assign("BUILD MODE");
   scene.text(ui::namlbl).clear();
   say(scene, "BUILD MODE SELECTED");
-  scene.game.currentTool = core::kRoadTool;
+  takeInHand(scene, core::kRoadTool);
   scene.text(ui::buildcurrent).assign("Current:Road");
   scene.text(ui::buildsize).assign("Effect area:  ");
   scene.text(ui::buildprice).assign("Price:5");
@@ -34,7 +49,7 @@ void enterInfoMode(Scene& scene) {
   scene.cue(sound::kClick);
   scene.form.show(ui::tileinfo);
   scene.form.moveTo(ui::tileinfo, 642, 347);
-  scene.game.currentTool = core::kInfoTool;
+  takeInHand(scene, core::kInfoTool);
   say(scene, "INFO MODE SELECTED");
   scene.text(ui::Label4).assign("INFO MODE");
   scene.text(ui::buildcurrent).clear();
@@ -45,7 +60,7 @@ void enterInfoMode(Scene& scene) {
 
 void resetPaletteAfterLoad(Scene& scene) {
   scene.form.moveTo(ui::tileinfo, 642, 347);
-  scene.game.currentTool = core::kInfoTool;
+  takeInHand(scene, core::kInfoTool);
   scene.text(ui::Label4).assign("INFO MODE");
   scene.text(ui::buildcurrent).clear();
   scene.text(ui::buildprice).clear();

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "scenario/missions.h"
+#include "shell/program.h"
 
 namespace shell {
 
@@ -16,8 +17,21 @@ void writeStatus(MenuScreen& menu, int mission) {
       .assign(menu.reachedMission() > mission ? "Status: COMPLETED" : "Status: NOT COMPLETED");
 }
 
+bool isClosed(MenuScreen& menu, int row) {
+  return row >= 1 && menu.reachedMission() < row + 1;
+}
+
 void clearRowBorders(MenuScreen& menu) {
   for (int k = 0; k < scenario::kMissions; ++k) menu.form()[ui::Label6 + k].border = false;
+}
+
+/// Shows the list of missions, a lock beside those that are still closed.
+void showList(MenuScreen& menu) {
+  const platform::Surface* lock = menu.program().services().assets.images.find(kLockImage);
+  for (int k = 0; k < scenario::kMissions; ++k) {
+    menu.form()[ui::Label6 + k].image = isClosed(menu, k) ? lock : nullptr;
+  }
+  menu.showPanel(ui::campaign);
 }
 
 void writeBriefing(MenuScreen& menu, int mission, LetterSet set) {
@@ -36,7 +50,7 @@ void showMissions(MenuScreen& menu) {
   menu.cue(sound::kClick);
   writeStatus(menu, 1);
   menu.form().hide(ui::startnew);
-  menu.showPanel(ui::campaign);
+  showList(menu);
 }
 
 void hoverMission(MenuScreen& menu, int row) {
@@ -61,7 +75,7 @@ void clickMission(MenuScreen& menu, int row) {
   menu.cue(sound::kClick);
   menu.values().selectedMission = row;
   menu.form().hide(ui::command7);
-  if (row >= 1 && menu.reachedMission() < row + 1) {
+  if (isClosed(menu, row)) {
     menu.form().show(ui::command7);
     menu.timers().enable(timer::Timer1);
     return;
@@ -81,7 +95,7 @@ void cancelMissions(MenuScreen& menu) {
 void cancelBriefing(MenuScreen& menu) {
   menu.cue(sound::kClick);
   menu.form().hide(ui::Framecpgn);
-  menu.showPanel(ui::campaign);
+  showList(menu);
 }
 
 void playMission(MenuScreen& menu) {

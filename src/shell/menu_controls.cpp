@@ -84,6 +84,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   for (int k = 0; k < 10; ++k) {
     t[static_cast<std::size_t>(Label6 + k)] =
         label("Label6", Frame9, {32, 8 + 32 * k, 257, 25}, "", FontSize::pt11, Align::left, k);
+    t[static_cast<std::size_t>(Label6 + k)].image = kLockImage;
   }
   t[mission] = group("mission", campaign, {344, 64, 201, 129}, "MISSION DETAILS:");
   t[difflbl] = label("difflbl", mission, {8, 24, 187, 20}, "Difficulty: ");

@@ -11,6 +11,7 @@ namespace shell {
 
 /// Name of the picture behind the menu.
 inline constexpr const char* kMenuBackground = "menu";
+inline constexpr const char* kLockImage = "lock";  // beside a mission that is still closed
 
 namespace menu_control {
 

@@ -4,6 +4,7 @@
 #include "core/new_game.h"
 #include "core/number_text.h"
 #include "map/ground.h"
+#include "play/palette.h"
 #include "scenario/missions.h"
 #include "scenario/puzzles.h"
 #include "shell/program.h"
@@ -81,6 +82,7 @@ void startNewGame(GameScreen& screen) {
   if (values.gNewMap != 1) return;
 
   core::resetGame(scene.game, values);
+  play::markToolInHand(scene);
   if (core::isPuzzle(mission)) {
     scene.game.gold = scenario::puzzle(values.gMission.whole()).gold;
     scene.timers.enable(timer::Timer14);

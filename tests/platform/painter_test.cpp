@@ -41,6 +41,10 @@ class Painting : public Toolkit {
           canvas_.refresh();
         },
         [&] { control.border = !control.border; },
+        [&] { form_[kTag].image = rolled(0, 1) != 0 ? &plate_ : nullptr; },
+        [&] {
+          form_[kPlate].heldKey = {rolled(0, 9), 2, rolled(0, 50), 9};
+        },
         [&] { form_[kCheck].checked = !form_[kCheck].checked; },
         [&] { form_[kFiles].list->items.resize(static_cast<std::size_t>(rolled(0, 20)), "new"); },
         [&] { desk_.wheel(rolled(-2, 2)); },
@@ -54,7 +58,7 @@ class Painting : public Toolkit {
           rolled(0, 3) != 0 ? desk_.buttonDown() : desk_.buttonUp();
         },
     };
-    changes[std::min<std::size_t>(dice_() % 22, std::size(changes) - 1)]();
+    changes[std::min<std::size_t>(dice_() % 24, std::size(changes) - 1)]();
   }
 
   Dice dice_{11};

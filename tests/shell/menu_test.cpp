@@ -98,4 +98,19 @@ TEST(OpenPlay, ReckonsTheDifficultyOfAllItsForms) {
   }
 }
 
+TEST(Menu, MissionsThatAreStillClosedCarryALock) {
+  Play play;
+  play.write("config.dat", "4,0,0,0,0,0,0,0,0,0,0,0\r\n");
+  play.restart();
+  const auto locks = [&play] {
+    std::string row;
+    for (int k = 0; k < 10; ++k) row += control(play, "Label6", k).image != nullptr ? 'x' : '-';
+    return row;
+  };
+  play.run("click mainnew\nclick stcampaign");
+  EXPECT_EQ(locks(), "----xxxxxx");
+  play.run("click Label6 3\nset gMission 11\nclick Command11");
+  EXPECT_EQ(locks(), "----------");
+}
+
 }  // namespace

@@ -77,4 +77,24 @@ TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
   EXPECT_EQ(play.text(ui::namlbl), "");
 }
 
+TEST(Panels, TheKeyOfTheToolInHandIsHeldDown) {
+  OpenGame play;
+  const platform::Form& form = play.form();
+  const platform::Rect& held = form[ui::Image6].heldKey;
+  EXPECT_EQ(held, core::paletteKey(7)) << "a new game begins with the road";
+  play.run("set population 1000\nadvance 1000\nclick Command21");
+  for (int n = 0; n <= 8; ++n) {
+    play.run("click Command1 " + number(n));
+    const platform::Rect name = form[ui::Command1 + n].place;
+    EXPECT_TRUE(held.contains({name.left + name.width / 2, name.top + name.height / 2})) << n;
+  }
+  play.run("click inform");
+  EXPECT_TRUE(held.empty());
+  play.run("click building");
+  EXPECT_EQ(held, core::paletteKey(7));
+  play.run("click gmmenu\nclick savegame\nclick txtsavename\ntype town\nclick cmdsave");
+  play.run("click gmmenu\nclick ldgame\nchoose File1 town.sav\nclick cmdload\nadvance 500");
+  EXPECT_TRUE(held.empty()) << "a loaded game opens in the info mode";
+}
+
 }  // namespace

@@ -213,6 +213,7 @@ def main():
     for s in SCALES:
         save_rgb('panel/Image2', info(s), s)
         marks(s)
+        lock(s)
     icon()
 
 
@@ -245,6 +246,20 @@ def marks(s):
     tick = lambda x, y: stroke(x, y, (1.9, 5.2), (4.6, 8.1), .8, 1.25) | stroke(x, y, (4.6, 8.1), (10.2, 1.6), 1.25, .7)
     save_rgb('panel/Picture20', drawn(12 * s, 10 * s, PALE, lambda x, y: tick(x / s, y / s), np.array([26, 138, 44]) / 255.), s)
     save_rgb('panel/Picture21', drawn(7 * s, 7 * s, PALE, lambda x, y: np.hypot(x / s - 3.5, y / s - 3.5) < 2.3, np.zeros(3)), s)
+
+
+def lock(s):
+    """A closed padlock: a shackle of iron over a brass body with its keyhole."""
+    def part(shape, colour, base):
+        return drawn(10 * s, 13 * s, base, lambda x, y: shape(x / s, y / s), np.array(colour) / 255.)
+    box = lambda x, y, l, t, r, b: (np.abs(x - (l + r) / 2) < (r - l) / 2) & (np.abs(y - (t + b) / 2) < (b - t) / 2)
+    ring = lambda x, y: np.where(y < 4.2, np.hypot(x - 5, y - 4.2), np.abs(x - 5))
+    img = part(lambda x, y: (ring(x, y) < 3.6) & (ring(x, y) > 1.9) & (y < 7), (104, 112, 132), PALE)
+    img = part(lambda x, y: box(x, y, .6, 5.4, 9.4, 12.6), (128, 96, 44), img)
+    img = part(lambda x, y: box(x, y, 1.4, 6.2, 8.6, 11.8), (206, 168, 88), img)
+    img = part(lambda x, y: box(x, y, 1.4, 6.2, 8.6, 7.3), (236, 210, 148), img)
+    hole = lambda x, y: (np.hypot(x - 5, y - 8.4) < 1.15) | box(x, y, 4.45, 8.4, 5.55, 10.9)
+    save_rgb('panel/lock', part(hole, (74, 54, 26), img), s)
 
 
 def icon():
