@@ -126,20 +126,21 @@ bool FieldReader::failField(std::string_view field, std::string_view what) {
 bool FieldReader::next(core::Number& into) {
   takenLine_ = line_;
   takenField_ = field_;
-  const std::size_t end = text_.find_first_of(",\r\n", at_);
-  // A return at the very end has lost its line feed.
-  if (end == std::string_view::npos || (text_[end] == '\r' && end + 1 == text_.size())) {
+  if (at_ == text_.size()) {
     fail("");
     error_.insert(0, "ends early, in ");
     return false;
   }
+  // The end of the text closes a field as the end of a line does.
+  const std::size_t end = std::min(text_.find_first_of(",\r\n", at_), text_.size());
   const std::string_view field = text_.substr(at_, end - at_);
-  at_ = end + 1;
-  if (text_[end] == '\r') {
-    if (text_[at_] != '\n') return fail(": a carriage return stands alone");
+  at_ = end;
+  lineClosed_ = !text_.substr(at_).starts_with(',');
+  if (!lineClosed_) {
     ++at_;
+  } else if (!passLineEnd()) {
+    return fail(": a carriage return stands alone");
   }
-  lineClosed_ = text_[end] != ',';
   if (lineClosed_) {
     ++line_;
     field_ = 1;
@@ -162,8 +163,16 @@ bool FieldReader::next(core::Number& into) {
   return true;
 }
 
+bool FieldReader::passLineEnd() {
+  const bool returned = text_.substr(at_).starts_with('\r');
+  if (returned) ++at_;
+  const bool fed = text_.substr(at_).starts_with('\n');
+  if (fed) ++at_;
+  return !returned || fed || at_ == text_.size();
+}
+
 bool FieldReader::finish() {
-  if (lineClosed_ && at_ == text_.size()) return true;
+  if (lineClosed_ && text_.find_first_not_of("\r\n", at_) == std::string_view::npos) return true;
   takenLine_ = line_;
   return fail(": more stands here than belongs in the file");
 }

@@ -1,7 +1,8 @@
 // The text form of all files that the game writes: decimal numbers, separated by a comma or by the
 // end of a line, nothing else. A field that holds nothing stands for a value that was never given.
 //
-// The reader takes a file as a flat stream of fields: where its lines break does not count. It
+// The reader takes a file as a flat stream of fields: where its lines break does not count, nor does
+// a missing line end or a blank line behind the last field. It
 // takes numbers in the forms that a person would type (.8, 5., 1.5E-03) and refuses everything
 // else, so that a damaged file is found out and nothing depends on the locale.
 #pragma once
@@ -42,11 +43,10 @@ class FieldReader {
  public:
   explicit FieldReader(std::string_view text) : text_(text) {}
 
-  /// Takes the next field. False when the text ends before the field does, or when the field is no
-  /// number.
+  /// Takes the next field. False when the text is at its end, or when the field is no number.
   bool next(core::Number& into);
-  /// To be asked behind the last field: false when it is not closed by the end of a line, or when
-  /// anything stands behind it.
+  /// For the end, after the last field: false when that was closed by a comma, or when anything but
+  /// blank lines follows.
   bool finish();
   /// Notes that the field just taken holds a value that cannot be used, as "line 2: `what`: 3".
   /// Always false.
@@ -58,6 +58,9 @@ class FieldReader {
  private:
   bool fail(std::string_view what);
   bool failField(std::string_view field, std::string_view what);
+  /// Passes "\r\n" or "\n", if one is here. False at a return without a line feed, but for the text's
+  /// last byte, which has lost it.
+  bool passLineEnd();
 
   std::string_view text_;
   std::size_t at_ = 0;

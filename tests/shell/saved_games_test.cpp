@@ -81,7 +81,7 @@ TEST(SavedGames, ThatCannotBeReadLeaveTheRunningGameUntouched) {
   play.write("bad.sav", "");
   const std::string bads[] = {"",
                               good.substr(0, good.size() / 2),
-                              good.substr(0, good.size() - 1),
+                              good.substr(0, good.size() - 3),
                               good + "0\r\n",
                               "nan" + good.substr(2),
                               wrongMission};

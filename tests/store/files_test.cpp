@@ -114,6 +114,12 @@ TEST(Progress, IsOneLineOfTwelveNumbersThatAreCarriedUnchanged) {
     EXPECT_EQ(support::bytesOf(folder / "config.dat"), text);
   }
   EXPECT_EQ(progress.reachedMission + progress.puzzleDone[10], 12);
+  // As an editor may leave it.
+  for (const char* text : {"3,0,0,0,0,0,0,0,0,0,0,1", "3,0,0,0,0,0,0,0,0,0,0,1\n\r\n\n"}) {
+    support::putFile(folder / "config.dat", text);
+    ASSERT_TRUE(readProgress(folder.path(), progress, error)) << error;
+    EXPECT_EQ(progress.reachedMission + progress.puzzleDone[10], 4);
+  }
 }
 
 TEST(Progress, ADamagedFileIsKeptUnderAnotherNameAndTold) {
@@ -121,8 +127,8 @@ TEST(Progress, ADamagedFileIsKeptUnderAnotherNameAndTold) {
   int count = 0;
   const std::string tail = ",0,0,0,0,0,0,0,0,0,0", end = "\r\n";
   for (const std::string& text :
-       {std::string(), "1,0" + tail, "1" + tail + end, "1,0,0" + tail + end,
-        "1,0" + tail + end + end, "0,0" + tail + end, "12,0" + tail + end, ",0" + tail + end,
+       {std::string(), "1,0" + tail + ",", "1" + tail + end, "1,0,0" + tail + end, "1" + tail,
+        "1" + tail + ",", "0,0" + tail + end, "12,0" + tail + end, ",0" + tail + end,
         "1.5,0" + tail + end, "1,0.5" + tail + end, "1,2147483648" + tail + end, "1,x" + tail + end,
         "1;0" + tail + end}) {
     support::putFile(folder / "config.dat", text);

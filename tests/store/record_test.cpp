@@ -143,18 +143,20 @@ TEST(Record, OnlyTheNumberAndTheOrderOfFieldsCount) {
   const auto record = std::make_unique<Record>();
   std::string oneLine = join(lines, ",");
   oneLine.back() = '\n';
-  for (const std::string& other : {join(lines, "\n"), oneLine}) {
+  const std::string open = text.substr(0, text.size() - 2);  // without its last line end
+  for (const std::string& other :
+       {join(lines, "\n"), oneLine, open, open + '\r', text + "\r\n\n"}) {
     EXPECT_EQ(faultOf(other, *record), "");
     EXPECT_EQ(textOf(*record), text);
   }
-  for (std::size_t cut = 0; cut < text.size(); cut += cut + 400 < text.size() ? 331 : 1) {
+  for (std::size_t cut = 0; cut < open.size(); cut += cut + 400 < open.size() ? 331 : 1) {
     EXPECT_TRUE(faultOf(text.substr(0, cut), *record).starts_with("ends early, in line ")) << cut;
   }
   const std::string more = ": more stands here than belongs in the file";
-  for (const char* rest : {"\r\n", "0", "\x1A"}) {
+  for (const char* rest : {"0", "\x1A", "\r\n,"}) {
     EXPECT_EQ(faultOf(text + rest, *record), "line 11918" + more);
   }
-  EXPECT_EQ(faultOf(text.substr(0, text.size() - 2) + ",", *record), "line 11917" + more);
+  EXPECT_EQ(faultOf(open + ",", *record), "line 11917" + more);
   EXPECT_EQ(faultOf(join(lines, "\r"), *record), "line 1: a carriage return stands alone");
   EXPECT_TRUE(faultOf("\xEF\xBB\xBF" + text, *record).starts_with("line 1, field 1:"));
 }
