@@ -46,8 +46,15 @@ constexpr Hint kHints[] = {
      "like"},
     {ui::stpuzzle, "This is a funny but difficult mode,consists of ten challenging missions"},
     {ui::stback, "Back to main menu"},
-    {ui::Frame7, ""},
 };
+
+/// The hint of a row; none for what else is in the frame of the rows.
+const char* hintOf(int control) {
+  for (const Hint& hint : kHints) {
+    if (hint.row == control) return hint.text;
+  }
+  return "";
+}
 
 void highlight(MenuScreen& menu, std::span<const Band> bands, int& lastRow) {
   const platform::Point pointer = menu.program().desk().pointer();
@@ -79,8 +86,8 @@ void moveOverMenu(MenuScreen& menu, int control) {
       form[other.row].back = other.row == control ? kLitGround : kRowGround;
     }
   }
-  for (const Hint& hint : kHints) {
-    if (hint.row == control) menu.text(ui::Label4).assign(hint.text);
+  if (control == ui::Frame7 || form[control].design->parent == ui::Frame7) {
+    menu.text(ui::Label4).assign(hintOf(control));
   }
   if (control >= ui::Label6 && control < ui::Label6 + 10) hoverMission(menu, control - ui::Label6);
   if (control == ui::Frame9 || control == ui::Command1) leaveMissionRows(menu);
