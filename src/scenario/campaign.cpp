@@ -1,9 +1,9 @@
 #include "scenario/campaign.h"
 
 #include "core/number_text.h"
+#include "platform/files.h"
 #include "scenario/missions.h"
 #include "scenario/outcome.h"
-#include "store/progress.h"
 #include "store/record.h"
 
 namespace scenario {
@@ -26,32 +26,43 @@ bool allRatingsAtLeast(const core::GameState& game, double percent) {
          game.doctorRating >= percent;
 }
 
-void tell(play::Scene& scene, const std::string& error) {
-  scene.desk.showBox("Error", error);
-}
-
 /// Brings "config.dat" up to the mission just reached.
-void raiseProgress(play::Scene& scene, const std::string& folder) {
+void raiseProgress(play::Scene& scene, store::ProgressKeeper& keeper) {
   core::ProgramValues& values = scene.values;
   const double reached = values.gMission;
-  store::Progress progress;
-  std::string error;
-  if (!store::prepareProgress(folder, error) || !error.empty()) tell(scene, error);
-  if (!store::readProgress(folder, progress, error)) {
-    tell(scene, error);
-    return;
-  }
+  std::string notice;
+  store::Progress progress = keeper.read(notice);
   scene.game.reachedMission = progress.reachedMission;
   if (reached < progress.reachedMission) {
     values.gReplayedMission = 1;
-    return;
+  } else {
+    values.gReservedNumber = progress.reservedNumber;
+    values.puzzleDone = progress.puzzleDone;
+    if (progress.reachedMission < reached) {
+      progress.reachedMission = reached;
+      keeper.write(progress, notice);
+    }
   }
-  values.gReservedNumber = progress.reservedNumber;
-  values.puzzleDone = progress.puzzleDone;
-  if (progress.reachedMission < reached) {
-    progress.reachedMission = reached;
-    if (!store::writeProgress(folder, progress, error)) tell(scene, error);
+  if (!notice.empty()) scene.desk.showBox("Error", notice);
+}
+
+/// Writes the city for the mission just reached. It goes over as it stands at this moment of the month,
+/// before the tick's money.
+void handCityOver(play::Scene& scene, const std::string& folder) {
+  const int mission = scene.values.gMission.whole();
+  const std::string path = folder + "/" + store::handOverFile(mission);
+  std::string message;
+  if (store::saveGame(path, scene.game, scene.values, message)) return;
+  message += ".\nThis city could not be handed over. Mission ";
+  message += core::NumberText(mission).view();
+  if (!goesOn(mission)) {
+    message += " founds a new one and does not need it.";
+  } else if (platform::fileExists(path)) {
+    message += " goes on with the city that was handed over before.";
+  } else {
+    message += " cannot start without it: win this mission again.";
   }
+  scene.desk.showBox("Error", message);
 }
 
 }  // namespace
@@ -83,7 +94,7 @@ bool missionGoalMet(const core::GameState& game, int mission) {
   }
 }
 
-void checkMissionEnd(play::Scene& scene, const std::string& folder) {
+void checkMissionEnd(play::Scene& scene, store::ProgressKeeper& progress) {
   core::ProgramValues& values = scene.values;
   const int number = values.gMission.whole();
   if (number < 1 || number > kCampaignWon) return;
@@ -97,13 +108,8 @@ void checkMissionEnd(play::Scene& scene, const std::string& folder) {
     }
     values.gMission = number + 1;
   }
-  raiseProgress(scene, folder);
-  if (values.gMission < kCampaignWon) {
-    // The city goes over as it stands at this moment of the month, before the tick's money.
-    std::string error;
-    const std::string path = folder + "/" + store::handOverFile(values.gMission.whole());
-    if (!store::saveGame(path, scene.game, values, error)) tell(scene, error);
-  }
+  raiseProgress(scene, progress);
+  if (values.gMission < kCampaignWon) handCityOver(scene, progress.folder());
   core::setCaption(scene.text(play::ui::pop1), "Population:", scene.game.population);
   endRun(scene, "MISSION COMPLETED", play::timer::Timer9);
 }

@@ -1,9 +1,8 @@
 // The end of a campaign mission: judged at the month roll that opens its judgement year.
 #pragma once
 
-#include <string>
-
 #include "play/scene.h"
+#include "store/progress_keeper.h"
 
 namespace scenario {
 
@@ -11,8 +10,8 @@ namespace scenario {
 bool missionGoalMet(const core::GameState& game, int mission);
 
 /// Judges the running mission where its time has come. A mission won raises "config.dat", hands the city
-/// over in a file, and goes back to the menu within a second; a mission lost goes back as well.
-/// `folder` is the program's folder. A file that fails is told in a message box.
-void checkMissionEnd(play::Scene& scene, const std::string& folder);
+/// over in a file, and goes back to the menu within a second; a mission lost goes back as well. A file
+/// that fails is told in a message box.
+void checkMissionEnd(play::Scene& scene, store::ProgressKeeper& progress);
 
 }  // namespace scenario

@@ -6,7 +6,6 @@
 #include "core/number_text.h"
 #include "core/vocabulary.h"
 #include "scenario/outcome.h"
-#include "store/progress.h"
 
 namespace scenario {
 
@@ -43,18 +42,14 @@ void endLevel(Scene& scene, const char* outcome) {
 }
 
 /// Notes the solved level in "config.dat": its first two fields stay as they are.
-void noteSolved(Scene& scene, const std::string& folder) {
+void noteSolved(Scene& scene, store::ProgressKeeper& keeper) {
   core::ProgramValues& values = scene.values;
   values.puzzleDone[values.gMission.whole() - core::kFirstPuzzle + 1] = 1;
-  std::string error;
-  if (!store::prepareProgress(folder, error) || !error.empty()) scene.desk.showBox("Error", error);
-  store::Progress progress;
-  bool written = store::readProgress(folder, progress, error);
-  if (written) {
-    progress.puzzleDone = values.puzzleDone;
-    written = store::writeProgress(folder, progress, error);
-  }
-  if (!written) scene.desk.showBox("Error", error);
+  std::string notice;
+  store::Progress progress = keeper.read(notice);
+  progress.puzzleDone = values.puzzleDone;
+  keeper.write(progress, notice);
+  if (!notice.empty()) scene.desk.showBox("Error", notice);
 }
 
 /// Tents on the map, counted by picture: a residence that has grown into a house counts no more, nor
@@ -91,7 +86,7 @@ void writePuzzleGoal(Scene& scene) {
   scene.text(ui::Label18).assign(core::puzzleGoal(scene.values.gMission.whole()));
 }
 
-void puzzleTick(Scene& scene, const std::string& folder) {
+void puzzleTick(Scene& scene, store::ProgressKeeper& progress) {
   core::GameState& game = scene.game;
   if (scene.values.gMission < core::kFirstPuzzle) {
     scene.form.hide(ui::Frame21);
@@ -118,7 +113,7 @@ void puzzleTick(Scene& scene, const std::string& folder) {
       break;
   }
   if (solved) {
-    noteSolved(scene, folder);
+    noteSolved(scene, progress);
     endLevel(scene, "MISSION COMPLETED");
   } else if (failed) {
     endLevel(scene, "MISSION FAILED");

@@ -1,9 +1,8 @@
 // Puzzle play: ten small levels with one goal each, the values 20 to 29 of gMission.
 #pragma once
 
-#include <string>
-
 #include "play/scene.h"
+#include "store/progress_keeper.h"
 
 namespace scenario {
 
@@ -22,7 +21,6 @@ const Puzzle& puzzle(int mission);
 void writePuzzleGoal(play::Scene& scene);
 
 /// One second of a level: keeps the goal strip, and ends the level when it is solved or lost.
-/// `folder` is the program's folder.
-void puzzleTick(play::Scene& scene, const std::string& folder);
+void puzzleTick(play::Scene& scene, store::ProgressKeeper& progress);
 
 }  // namespace scenario

@@ -49,7 +49,7 @@ void scriptTick(GameScreen& s) {
   if (scenario::demonstrationTick(s.scene())) endDemonstration(s);
 }
 void puzzleTick(GameScreen& s) {
-  scenario::puzzleTick(s.scene(), s.folder());
+  scenario::puzzleTick(s.scene(), s.program().progress());
 }
 
 void musicTick(GameScreen& s) {

@@ -9,6 +9,7 @@
 #include "play/status_report.h"
 #include "scenario/campaign.h"
 #include "scenario/missions.h"
+#include "shell/program.h"
 #include "shell/saved_games.h"
 #include "sim/coverage.h"
 #include "sim/disasters.h"
@@ -71,7 +72,8 @@ void rollMonth(GameScreen& screen) {
   stepFamine(scene);
   if (sim::earthquakeDue(game, values)) startEarthquake(scene);
   if (sim::theftDue(game, values)) commitTheft(scene);
-  if (values.gMission != core::kOpenPlay) scenario::checkMissionEnd(scene, screen.folder());
+  if (values.gMission != core::kOpenPlay)
+    scenario::checkMissionEnd(scene, screen.program().progress());
 }
 
 void reportEarthquake(Scene& scene) {
@@ -113,7 +115,7 @@ void gameTick(GameScreen& screen) {
   if (game.quakeReportPending == 1) reportEarthquake(scene);
   if (values.gMission == 10 && scenario::missionGoalMet(game, 10)) {
     values.gMission = scenario::kCampaignWon;
-    scenario::checkMissionEnd(scene, screen.folder());
+    scenario::checkMissionEnd(scene, screen.program().progress());
   }
 }
 

@@ -8,7 +8,6 @@
 #include "shell/menu_campaign.h"
 #include "shell/menu_puzzles.h"
 #include "shell/program.h"
-#include "store/progress.h"
 
 namespace shell {
 
@@ -48,13 +47,9 @@ namespace {
 
 /// Reads "config.dat". Where it is missing or damaged the player starts afresh, and is told.
 void readProgress(MenuScreen& menu) {
-  const std::string& folder = menu.program().services().programFolder;
   std::string notice;
-  store::prepareProgress(folder, notice);
+  const store::Progress progress = menu.program().progress().read(notice);
   if (!notice.empty()) menu.program().desk().showBox("Vellmoran", notice);
-  store::Progress progress;
-  std::string error;
-  if (!store::readProgress(folder, progress, error)) progress = {};
   menu.values().gMission = progress.reachedMission;
   menu.values().gReservedNumber = progress.reservedNumber;
   menu.values().puzzleDone = progress.puzzleDone;

@@ -38,6 +38,7 @@ class MenuScreen : public Screen {
 
   int mainHoverRow = 0;  // row of a panel that the pointer lit last, 0 for none
   int startHoverRow = 0;
+  bool exitWarned = false;  // EXIT GAME has said that progress would be lost
 
  private:
   Program& program_;

@@ -68,6 +68,16 @@ void closeCredits(MenuScreen& menu) {
 
 void clickExit(MenuScreen& menu) {
   menu.cue(sound::kClick);
+  std::string error;
+  if (!menu.program().progress().writeKept(error) && !menu.exitWarned) {
+    menu.exitWarned = true;
+    menu.program().desk().showBox(
+        "Error",
+        error +
+            ".\nYour progress is not saved yet. EXIT GAME tries once more, and then leaves in "
+            "any case.");
+    return;
+  }
   leaveDisplayMode(menu.program());
 }
 

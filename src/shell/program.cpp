@@ -12,6 +12,7 @@ constexpr platform::Size kMapSurface{1984, 1056};
 Program::Program(Services& services)
     : services_(services),
       speaker_(services.media, services.programFolder),
+      progress_(services.programFolder),
       desk_(*services.assets.font),
       painter_(*services.assets.font),
       framebuffer_(platform::kScreenWidth, platform::kScreenHeight) {}
@@ -60,6 +61,8 @@ void Program::openMenu() {
 }
 
 void Program::end(int exitStatus) {
+  std::string error;
+  progress_.writeKept(error);  // a window that was closed leaves no time for a message
   ended_ = true;
   exitStatus_ = exitStatus;
   open(nullptr);

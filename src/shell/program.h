@@ -14,6 +14,7 @@
 #include "shell/screen.h"
 #include "shell/services.h"
 #include "sound/speaker.h"
+#include "store/progress_keeper.h"
 
 namespace shell {
 
@@ -53,6 +54,7 @@ class Program {
   Services& services() { return services_; }
   core::ProgramValues& values() { return values_; }
   sound::Speaker& speaker() { return speaker_; }
+  store::ProgressKeeper& progress() { return progress_; }
   platform::Canvas& canvas() { return canvas_; }
   /// Opens the game screen in place of the menu: everything that its opening does happens in here.
   void openGame();
@@ -69,6 +71,7 @@ class Program {
   Services& services_;
   core::ProgramValues values_;
   sound::Speaker speaker_;
+  store::ProgressKeeper progress_;
   platform::Desk desk_;
   platform::Painter painter_;
   platform::Surface framebuffer_;

@@ -1,6 +1,7 @@
 // Each mission and each puzzle, won and lost at its judgement, on both sides of every comparison.
 #include <gtest/gtest.h>
 
+#include "platform/files.h"
 #include "platform/pixels.h"
 #include "scenario/missions.h"
 #include "shell/game_screen.h"
@@ -102,6 +103,75 @@ TEST(Missions, AreLostWhenAnythingFallsShort) {
       play.run("advance 1000\nclick mainnew");
     }
   }
+}
+
+void fillDisk(bool full) {
+  platform::setWriteStep(full ? [](const char*) { return false; } : platform::WriteStep{});
+}
+
+void expectBox(Play& play, const std::string& begin, const std::string& end) {
+  const std::string box = play("box");
+  EXPECT_NE(box.find("\"text\":\"" + begin), std::string::npos) << box;
+  EXPECT_TRUE(box.ends_with(end + "\"}")) << box;
+  play.run("click OK");
+}
+
+TEST(Missions, AVictoryOnAFullDiskIsKeptAndWrittenWhenItCanBe) {
+  enum Later { atTheMenu, atExit, never };
+  for (const Later later : {atTheMenu, atExit, never}) {
+    Play play;
+    fillDisk(true);
+    judge(play, 1, 1717, kJudgements[0].enough);
+    expectBox(play, "config.dat: ", "tried again at each return to the menu and at EXIT GAME.");
+    expectBox(play, "mission2.dat: ", "Mission 2 cannot start without it: win this mission again.");
+    play.run("advance 1000");
+    EXPECT_EQ(play("box"), "ok null");
+    EXPECT_EQ(caption(play, "Frame1"), "MISSION 2");
+    EXPECT_TRUE(play.file("config.dat").starts_with("1,"));
+    if (later == atTheMenu) {
+      fillDisk(false);
+      play.run("click Command14\nadvance 500");
+      expectBox(play, "mission2.dat: ", "");  // there is no city to go on with
+    } else {
+      play.run("click Command11\nclick campaignback\nclick stback\nclick mainquit");
+      expectBox(play, "config.dat: ", "EXIT GAME tries once more, and then leaves in any case.");
+      EXPECT_EQ(play("screen"), "ok firstmenu");
+      if (later == atExit) fillDisk(false);
+      play.run("click mainquit");
+      EXPECT_EQ(play("screen"), "ok none");
+    }
+    fillDisk(false);
+    EXPECT_TRUE(play.file("config.dat").starts_with(later == never ? "1," : "2,"));
+  }
+}
+
+TEST(Missions, ACityThatCannotBeHandedOverIsToldWithWhatFollows) {
+  for (const bool before : {false, true}) {
+    Play play;
+    const Judgement& judged = kJudgements[before ? 0 : 2];
+    if (before) play.write("mission2.dat", "the city of an earlier victory");
+    fillDisk(true);
+    judge(play, judged.mission, judged.year, judged.enough);
+    play.run("click OK");
+    if (before) {
+      expectBox(play, "mission2.dat: ", "goes on with the city that was handed over before.");
+    } else {
+      expectBox(play, "mission4.dat: ", "founds a new one and does not need it.");
+    }
+    fillDisk(false);
+  }
+}
+
+TEST(Puzzles, SolvedOnAFullDiskAreKept) {
+  Play play;
+  play.run("click mainnew\nclick stpuzzle\nclick Label20 0\nadvance 500\nset population 60");
+  settle(play);
+  fillDisk(true);
+  play.run("advance 1000\nclick OK\nadvance 1000");
+  EXPECT_EQ(play("get puzzleDone1"), "ok 1");
+  fillDisk(false);
+  play.session().program().end(0);  // as when the window is closed
+  EXPECT_EQ(play.file("config.dat"), "1,0,1,0,0,0,0,0,0,0,0,0\r\n");
 }
 
 /// Whether the next redraw of the map finds nothing to mend.
