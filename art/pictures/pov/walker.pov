@@ -15,10 +15,10 @@ Ground()
 #declare Skirt = (Who = 1 | Who = 3);
 #declare Sw = (Skirt ? 0.052 : 0.088)*sin(Step*pi/2);
 #switch (Who)
-  #case (0) #declare cCoat = C("3A6CC4"); #declare cHair = C("6E4322"); #declare cLegs = C("D8C79C"); #break
-  #case (1) #declare cCoat = C("C8423A"); #declare cHair = C("F2E4C4"); #declare cLegs = C("A83430"); #break
-  #case (2) #declare cCoat = C("7FA9B4"); #declare cHair = C("E2BC50"); #declare cLegs = C("7A5634"); #break
-  #case (3) #declare cCoat = C("55934C"); #declare cHair = C("8A4A24"); #declare cLegs = C("48803F"); #break
+  #case (0) #declare cCoat = C("2A55B8"); #declare cHair = C("6E4322"); #declare cLegs = C("D8C79C"); #break
+  #case (1) #declare cCoat = C("C2332E"); #declare cHair = C("F6ECD2"); #declare cLegs = C("A02A28"); #break
+  #case (2) #declare cCoat = C("17787E"); #declare cHair = C("F0C850"); #declare cLegs = C("5E3E22"); #break
+  #case (3) #declare cCoat = C("2E7A36"); #declare cHair = C("7A3A18"); #declare cLegs = C("2A6A30"); #break
 #end
 #declare cSkin = C("F0C09A"); #declare cShoe = C("3A281A");
 #macro Leg(Side, Reach, Up)

@@ -7,7 +7,7 @@ import render as scenes
 # drawing: scene, kind of canvas, options, picture numbers of its pieces in
 # the order anchor, x + 1, y + 1, both (or of its one cell)
 DRAWINGS = {
-    'heath':     ('heath', 'tile', {'line': .42}, [29]),
+    'heath':     ('heath', 'tile', {'line': .28, 'reach': 2}, [29]),
     'tent':      ('tent', 'tile', {}, [4]),
     'house':     ('house', 'flat', {}, [19, 35, 33, 34]),
     'apartment': ('apartment', 'apt', {}, [3, 5, 6, 7]),
@@ -16,10 +16,10 @@ DRAWINGS = {
     'tavern':    ('tavern', 'tall', {}, [44, 46, 45, 47]),
     'church':    ('church', 'tall', {}, [14, 32, 18, 15]),
     'doctor':    ('doctor', 'tiletall', {}, [12]),
-    'field':     ('farm', 'tile', {'endless': True, 'line': .3}, [13]),
-    'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'own': ['Which=0', 'Own=1'], 'fade': ''}, [59]),
-    'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'own': ['Which=1', 'Own=1'], 'fade': ''}, [60]),
-    'tower':     ('wall', 'tiletall', {'declare': ['Which=2'], 'fade': 'x'}, [61]),
+    'field':     ('farm', 'tile', {'endless': True, 'line': .14}, [13]),
+    'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'own': ['Which=0', 'Own=1'], 'fade': '', 'void': 'y'}, [59]),
+    'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'own': ['Which=1', 'Own=1'], 'fade': '', 'void': 'x'}, [60]),
+    'tower':     ('wall', 'tiletall', {'declare': ['Which=2'], 'fade': 'x', 'void': 'xy'}, [61]),
 }
 ODD_BOX = (5, 6)          # 63 x 33: drawn as 64 x 32, so nothing may be lost
 

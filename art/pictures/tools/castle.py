@@ -9,7 +9,7 @@ def castle():
     rim = np.minimum(X, Y) - 7.25 + .25 * w.noise(2.1, 2)
     rim = np.maximum(rim, 1.6 - np.hypot((X - 6.7), (Y - 13.9) / 1.15))
     rim = np.maximum(rim, 1.15 - np.hypot((X - 12.3) / 1.5, (Y - 7.0)))
-    rim = np.minimum(np.minimum(rim, 14.5 - np.abs(X - Y)), 23.0 - np.maximum(X, Y)) + .16 * w.noise(1.3, 3) + .08 * w.noise(.45, 4)
+    rim = np.minimum(np.minimum(rim, 14.95 - np.abs(X - Y)), np.minimum(23.35 - np.maximum(X, Y), 32.05 - X - Y)) + .16 * w.noise(1.3, 3) + .08 * w.noise(.45, 4)
     w.rim = rim
     w.meadow(32)
     w.track([(12, 9.6), (12, 8.4), (12, 7.2), (11.9, 6.2)], .13)
@@ -25,8 +25,7 @@ def castle():
     dens = smooth(.08, .16, rim) * np.clip(.22 + .8 * smooth(-.1, .3, w.fbm(2.6, 70, 2)) + .5 * smooth(.5, .2, rim), 0, 1)
     w.wood(dens * .85, .29, lambda x, y, k: leafy[int(k * 7)], (.34, .56), 259)
     w.wood(np.where(rim > .07, .55, 0), .21, ('ShrA', 'ShrB'), (.16, .30), 259)
-    w.C *= smooth(.015, .045, rim)[..., None]
-    w.Z = np.where(rim < 0, 3.0 * np.clip(rim, -2, 0), 0).astype(np.float32)
+    w.thin_out(.26)
     w.write()
     x0, y0, W, H = CASTLE
     for s, img in shot('castle', W, H, 992 - x0, 32 - y0, 4, 24).items():

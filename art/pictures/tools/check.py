@@ -147,7 +147,7 @@ def joints(s):
             rim = DIAMOND[s] & ({'y-': v, 'y+': 1 - v, 'x-': u, 'x+': 1 - u}[side] < .035)
             across = u if side[0] == 'y' else v
             kerb = rim & ((across < .16) | (across > .84))
-            if np.abs(a - ref)[kerb].max() > 24:
+            if np.abs(a - ref)[kerb].max() > 26:
                 yield 'picture %d: kerb broken at %s (%d)' % (n, side, np.abs(a - ref)[kerb].max())
         if 'x+' in sides:
             # a block of direction 3 at (22, 1) of the next cell along x
@@ -173,6 +173,51 @@ def colours(s):
         yield 'pair 20 does not blacken'
 
 
+DEUTAN = np.array([[.367, .861, -.228], [.280, .673, .047], [-.012, .043, .969]])   # of linear colours
+
+
+def lab(linear):
+    xyz = np.clip(linear, 0, 1) @ np.array([[.4339, .2126, .0178], [.3762, .7152, .1096], [.1899, .0722, .8726]])
+    f = np.where(xyz > .008856, np.cbrt(xyz), 7.787 * xyz + 16 / 116)
+    return np.stack([116 * f[..., 1] - 16, 500 * (f[..., 0] - f[..., 1]), 200 * (f[..., 1] - f[..., 2])], -1)
+
+
+def marks(s):
+    """The diamonds of the views differ by form, and the form is seen by eyes
+    that do not tell red from green."""
+    shape = {}
+    for n, colour in views.LEGEND.items():
+        grey = (pair(n, s)[..., :3] == views.OUTLINE).all(-1)
+        shape[n] = grey & ~views.outlined(s)
+        seen = lab(to_lin(np.array([colour, views.OUTLINE]) / 255.) @ DEUTAN.T)
+        if np.linalg.norm(seen[0] - seen[1]) < 14:
+            yield 'the mark of pair %d is faint: %.1f' % (n, np.linalg.norm(seen[0] - seen[1]))
+    for a, b in ((16, 17), (16, 58), (17, 58)):
+        if (shape[a] ^ shape[b]).sum() < 60 * s * s:
+            yield 'the marks of %d and %d are much alike' % (a, b)
+
+
+def meadow(s):
+    """A random mixture of the two grounds shows no lattice: its brightness at a
+    place says nothing about that of the next cells, neither pixel by pixel nor
+    seen from afar; and it is neither a billiard cloth nor restless."""
+    r, n = np.random.RandomState(5), 48
+    out = np.zeros((32 * n * s, 64 * n * s, 4), np.uint8)
+    grounds = pair(0, s), pair(28, s)
+    for x in range(n):
+        for y in range(n):
+            blit(out, grounds[r.randint(2)], s * (32 * (x - y) + 32 * n - 32), s * 16 * (x + y))
+    luma = box(out, 16 * n, 8 * n, 32 * n, 16 * n, s)[..., :3] @ [.299, .587, .114]
+    for what, a in (('pixel by pixel', luma), ('from afar', blur(luma, 3 * s))):
+        a = a - a.mean()
+        for dx, dy in ((32 * s, 16 * s), (32 * s, -16 * s), (64 * s, 0), (0, 32 * s)):
+            p, q = a[max(0, -dy):len(a) - max(0, dy), :a.shape[1] - dx], a[max(0, dy):len(a) + min(0, dy), dx:]
+            if abs((p * q).mean() / a.var()) > .08:
+                yield 'meadow repeats at %d, %d %s: %.3f' % (dx, dy, what, (p * q).mean() / a.var())
+    if not 4 < luma.std() < 7:
+        yield 'meadow deviates by %.1f' % luma.std()
+
+
 def fields(s):
     """Told apart by colour alone: bare and dark, green, light straw."""
     mean = {n: pair(n, s)[DIAMOND[s]][:, :3].mean(0) for n in (13, 54, 55, 0)}
@@ -195,7 +240,7 @@ def finer(s):
                 yield '%s is the small one enlarged' % name
 
 
-CHECKS = [formats, diamonds, footprints, stripes, trail, joints, colours, fields]
+CHECKS = [formats, diamonds, footprints, stripes, trail, joints, colours, marks, meadow, fields]
 LARGE = ['mask/48', 'tile/48', 'tile/62', 'mask/53', 'tile/53', 'mask/22', 'panel/menu']
 
 

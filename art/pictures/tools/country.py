@@ -4,7 +4,7 @@ A World holds, on a grid of map cells, the height of the land, its colour, and a
 list of things standing on it.  It is written out for pov/country.pov."""
 from scene import *
 
-R = 48                                          # grid points per cell
+R = 64                                          # grid points per cell
 
 
 def hx(s):
@@ -44,12 +44,13 @@ class World:
         """Smooth noise, about -1..1, with waves of `scale` cells."""
         r = np.random.RandomState(seed)
         n = int(self.size / scale) + 4
-        g = r.rand(n, n) * 2 - 1
-        p, q = (self.X - self.x0) / scale, (self.Y - self.y0) / scale
+        g = (r.rand(n, n) * 2 - 1).astype(np.float32)
+        p, q = (self.X[0] - self.x0) / scale, (self.Y[:, 0] - self.y0) / scale
         i, j = p.astype(int), q.astype(int)
-        f, e = p - i, q - j
+        f, e = (p - i).astype(np.float32), (q - j).astype(np.float32)[:, None]
         f, e = f * f * (3 - 2 * f), e * e * (3 - 2 * e)
-        return ((g[j, i] * (1 - f) + g[j, i + 1] * f) * (1 - e) + (g[j + 1, i] * (1 - f) + g[j + 1, i + 1] * f) * e).astype(np.float32)
+        rows = g[j] * (1 - e) + g[j + 1] * e
+        return rows[:, i] * (1 - f) + rows[:, i + 1] * f
 
     def fbm(self, scale, seed, octaves=4):
         a, s, out = 1., 0., 0
@@ -89,7 +90,7 @@ class World:
     def grain(self, seed):
         r = np.random.RandomState(seed)
         n = r.randn(*self.Z.shape).astype(np.float32)
-        n = .6 * n + .8 * blur(n, 1.0)
+        n = .5 * n + .7 * blur(n, 1.0) + 1.6 * blur(n, 2.0)
         self.C *= (1 + .055 * n)[..., None]
 
     def rim_green(self, d):
@@ -114,7 +115,7 @@ class World:
         ys, xs = np.nonzero(mask)
         for k in r.permutation(len(ys))[:n]:
             j, i = ys[k], xs[k]
-            self.C[j:j + 2, i:i + 2] = colours[r.randint(len(colours))]
+            self.C[j:j + R // 24, i:i + R // 24] = colours[r.randint(len(colours))]
 
     # ---- lines: roads, streams
     def along(self, pts, n=60, reach=2.5):
@@ -205,6 +206,13 @@ class World:
                 k += 1
             v += h
 
+    def thin_out(self, reach=.34, wild=1):
+        """The ground darkens towards the end of the land (unevenly where wild), and
+        beyond it falls away into the black."""
+        ragged = self.rim + wild * (.07 * self.noise(.16, 91) + .04 * self.noise(.07, 92))
+        self.C *= (smooth(0, reach, ragged) * (self.rim > .015))[..., None]
+        self.Z = np.where(self.rim < 0, self.Z + 3.0 * np.clip(self.rim, -2, 0), self.Z).astype(np.float32)
+
     # ---- plants
     def ceiling(self, x, y, top, scale):
         if callable(top):
@@ -230,7 +238,7 @@ class World:
         os.makedirs(OUT, exist_ok=True)
         lo, hi = float(self.Z.min()), float(self.Z.max()) + 1e-3
         z = np.round((self.Z - lo) / (hi - lo) * 65535).astype(np.uint16)
-        Image.fromarray(z[::1]).save(OUT + '/heights.png')
+        Image.fromarray(z).save(OUT + '/heights.png')
         c = np.round(np.clip(self.C, 0, 1) * 255).astype(np.uint8)
         Image.fromarray(c[::-1].copy(), 'RGB').save(OUT + '/colours.png')
         with open(OUT + '/things.inc', 'w') as f:
@@ -307,8 +315,7 @@ def band():
     w.wood(np.where(rim > .15, .06 * smooth(.15, .5, d) + .5 * smooth(.05, .3, dens) * (dens < .8), 0), .26, ('ShrA', 'ShrB'), (.16, .30), 33)
     w.wood(np.where((np.abs(pond - .02) < .05) & (brook > .3) & (w.noise(1.1, 90) > -.1), .75, 0), .17, ('Reeds',), (.32, .5), 33)
     w.put('BoatA', 16.9, 2.6, .5, -20, z=-.05)
-    w.C *= smooth(.015, .045, rim)[..., None]
-    w.Z = np.where(rim < 0, w.Z + 3.0 * np.clip(rim, -2, 0), w.Z).astype(np.float32)
+    w.thin_out()
     w.write()
     X0, Y0, W, H = BAND
     for s, img in shot('country', W, H, 992 - X0, 32 - Y0, 4, 14).items():
@@ -347,7 +354,10 @@ def coast(harbour=False):
     rim = np.minimum(np.minimum(X, Y) + 3.7, (X + Y) * .62 + .2)
     rim = np.where(Y > .3, np.minimum(rim, X + .92 + per * .8), rim)
     rim = np.minimum(rim, (28.6 - (X - Y)) * .7)
-    rim = np.minimum(rim, F + .5 * smooth(3.7, 2.4, Y) - X) + .35 * w.noise(1.7, 3) * smooth(1.5, -.5, Y) + .10 * w.noise(.5, 4) * smooth(3.4, 2.4, Y) * (X > 6)
+    # its right end: a rounded head that reaches the map's corner and draws back from there
+    wild = smooth(3.9, 3.0, Y)
+    head = F + .32 - X - .75 * smooth(3.9, 2.6, Y) + .55 * smooth(1.6, -.2, Y)
+    rim = np.minimum(rim, head) + .35 * w.noise(1.7, 3) * smooth(1.5, -.5, Y) + (.10 + .30 * smooth(22.5, 25, X)) * w.noise(.9, 4) * wild * (X > 6)
     inland = np.maximum(-Y, 0)
     w.Z = (smooth(.3, 3.2, -Y) * (.30 + .5 * w.fbm(5, 11, 3))).astype(np.float32)
     for x, y, rx, ry, h in ((2.0, -2.0, 1.8, 1.2, .35), (7, -2.8, 2.2, 1.2, .9), (12, -2.6, 2.6, 1.2, 1.1), (18, -2.9, 2.4, 1.3, 1.5), (23.5, -2.4, 2.2, 1.3, 1.1)):
@@ -414,8 +424,8 @@ def coast(harbour=False):
     edge = smooth(1.4, .5, rim)
     land = (Y < .6) | (X > 3.6) & (Y < 3.9)
     dens = np.clip(1.25 * edge + smooth(.12, .36, patch) * smooth(.8, 1.6, sd), 0, 1) * smooth(.25, .7, sd) * (Y < .2)
-    ends = smooth(1.5, .5, F - X) * smooth(.25, .6, sd) * (Y < 3.3)
-    dens = np.maximum(dens, .9 * ends) * smooth(.10, .25, rim)
+    ends = smooth(1.9, .8, F - X) * smooth(.2, .9, rim) * smooth(.25, .6, sd) * (Y < 3.3)
+    dens = np.maximum(dens, .8 * ends) * smooth(.10, .5, rim)
     leafy = ('OakA', 'OakB', 'OakD', 'OakA', 'OakC', 'OakB', 'OakE')
     kind = lambda x, y, k: ('FirA', 'FirB')[k < .4] if w.at(firs, x, y) + .35 * (k - .5) > .16 else leafy[int(k * 7)]
     w.wood(dens, .30, kind, (.42, .66), lid)
@@ -456,8 +466,7 @@ def coast(harbour=False):
         w.put('Jetty', 1.35, cy + .75, .40, 92, z=.0)
         w.put('BoatA', 2.45, cy + .85, .58, -78, z=-.06)
         w.put('Row', .85, cy + 1.15, .5, 60, z=-.06)
-    w.C *= smooth(.015, .045, rim)[..., None]
-    w.Z = np.where(rim < 0, w.Z + 3.0 * np.clip(rim, -2, 0), w.Z).astype(np.float32)
+    w.thin_out(.30, smooth(3.6, 2.6, Y))
     w.write()
     return w
 
@@ -492,10 +501,11 @@ def cut_water(img, X0, Y0, img2, x0, y0, s):
     # the water picture that repeats: one slice of the river
     u, v = cells(699, 80)
     free = ~box(inside, 699, 80, 288, 144, s)
-    # The last one ends with the map, its water in a wavy line.  The others are
-    # whole all the same, since their neighbours begin before that.
-    swell = .09 * np.sin(4.1 * u + .9) + .045 * np.sin(8.7 * u + 2.1)
-    last = 27 - Y1 - 6 * P + swell * smooth(-.5, .0, u) * smooth(3.05, 2.4, u)
+    # The last one ends with the map: its water breaks up into level dashes, its
+    # banks into blades.  The others are whole all the same, since their neighbours
+    # begin before that.
+    wet = smooth(-.5, .0, u) * smooth(3.05, 2.4, u)
+    last = 27 - Y1 - 6 * P + .04 + np.where(wet > .5, .24 * dashes(v.shape, 12 * s, s, 61), .07 * dashes(v.shape, s, 4 * s, 62))
     plain = np.where(((v > 0) & (v < last) & free)[..., None], per(699, 80), 0)
     save_rgb('mask/53', plain, s)
     # the first one: the bend; its lower tip is as in the others
@@ -509,8 +519,7 @@ def cut_water(img, X0, Y0, img2, x0, y0, s):
     box(own, 821, 19, 288, 144, s)[:] = load_rgb('tile/53', s).any(-1)
     box(own, 699, 80, 288, 144, s)[:] |= plain.any(-1)
     c = at(*COAST).copy()
-    u, _ = cell_xy(*COAST, s)
-    c[box(inside, *COAST, s) | box(own, *COAST, s) | (u > 27)] = 0
+    c[box(inside, *COAST, s) | box(own, *COAST, s)] = 0
     save_rgb('tile/48', c, s)
     # the landing place
     u, v = cells(455, 202)
@@ -518,6 +527,16 @@ def cut_water(img, X0, Y0, img2, x0, y0, s):
     own = (v > 4.5 - P) & (v < P)
     p = np.where(own[..., None], box(img2, 455 - x0, 202 - y0, 288, 144, s), per(455, 202))
     save_rgb('mask/22', np.where(((v > 0) & (v < 4.5) & free)[..., None], p, 0), s)
+
+
+def dashes(shape, w, h, seed):
+    """Noise -1..1 in level (or upright) dashes of about w x h pixels."""
+    r = np.random.RandomState(seed)
+    y, x = np.mgrid[0:shape[0], 0:shape[1]]
+    lines, places = (y // h, x + 7 * w) if w > h else (x // w, y + 7 * h)
+    long = max(w, h)
+    shift = r.randint(long, size=lines.max() + 1)[lines]
+    return r.uniform(-1, 1, (lines.max() + 1, places.max() // long + 2))[lines, (places + shift) // long]
 
 
 def ripple(w, mask, seed, n, size=(.10, .34), bright=.5):

@@ -2,67 +2,104 @@
 painted to the pixel, since tufts and ears of a few pixels blur in a render.
 
 Each is a piece of an endless field that repeats with the cell, so that cells
-join without a line.  Rows run along map x, which climbs a pixel in two."""
+join without a line.  Rows run along map x, which climbs a pixel in two; they
+waver, and no two plants are alike, for a field is no cloth."""
 import numpy as np
 from iso import *
+from grounds import torus_noise
 
 ROWS = 5            # of tufts in a cell: the ridges of the ploughed field
 TUFTS = 7           # in a row of a cell
-BANDS = 6           # of ears in a cell, 5 1/3 pixels each
+EARS = 13, 26       # rows of ears in a cell, ears in a row
 
-# Tufts: L lit, B leaf, D in shade, s their shadow on the soil.
+# Tufts from small to large: L lit, B leaf, D in shade, s their shadow on the soil.
 SHAPES = {
-    1: [('.LB.', 'LBBB', 'BBBB', '.BBD', '..s.'),
-        ('.LB.', 'BBBB', 'BBBB', '.BDD', '..s.'),
+    1: [('.LB.', 'BBB.', '.BD.', '..s.'),
+        ('.LB.', 'BBBB', '.BBD', '..s.'),
+        ('.LB.', 'LBBB', 'BBBB', '.BBD', '..s.'),
+        ('L.B.', 'BBBB', 'LBBB', '.BDD', '..s.'),
         ('.BB.', 'LBBB', 'BBBD', '.BD.', '..s.'),
-        ('.LB.', 'BBBB', '.BBD', '..s.')],
-    2: [('...L....', '.L.LB.B.', '.LBLBBB.', '..LBBBBD', 'LLBBDBB.', '.BBBBDDB', '..BBDDB.', '...DDDs.', '...ssss.'),
-        ('..L..L..', '..LB.LB.', 'L.BBLBB.', '.LBBBBDB', '.BBLBBD.', 'BBBBBDDD', '..BBDDs.', '...DDss.', '....ss..'),
-        ('....L...', '.LL.LB..', '..BLBBB.', 'LBBBBBDB', '.BBLBDD.', '..BBBDBB', '.BBDDDs.', '...Dsss.', '...sss..'),
-        ('..L.....', '..LL.L..', 'L.BB.B..', '.LBBBBD.', '..BBBDD.', '.BBDDD..', '...Dsss.', '....ss..')]}
+        ('.L.B.', 'LBBBB', 'BBBBB', '.BBDD', '..ss.')],
+    2: [('..LL....', 'L.LBB.B.', 'LBBBBBB.', '.LBBBBD.', 'BBBBDDB.', '.BBBDD..', '..DDDDs.', '...sss..'),
+        ('...L..L.', '.LLB.LB.', 'LBBBBBB.', '.LBBBBBD', 'LBBBBBD.', 'BBBBBDDB', '.BBDDDs.', '..DDsss.'),
+        ('..L..L...', 'L.LB.LB..', 'LBBBLBBB.', '.LBBBBBBD', 'LLBBBBBD.', 'BBBBBBDDB', '.BBBDDDD.', 'B.BDDDss.', '...Dssss.'),
+        ('...LL....', '.L.LBB.B.', '.LBLBBBB.', 'L.LBBBBDD', 'LLBBBBBB.', 'BBBBBBDDB', '.BBBDDDs.', '..DDDsss.', '...ssss..'),
+        ('....L..L.', '.LL.LB.B.', 'L.BLBBBB.', 'LBBBBBBDB', '.BBLBBDD.', 'LBBBBDDBB', '.BBBDDDs.', '..DDssss.', '...ssss..'),
+        ('..L..L..L.', '.LLB.LBLB.', 'L.BBLBBBB.', 'LLBBBBBBDD', '.LBBLBBBB.', 'LBBBBBBDDB', 'BBBBBDDDD.', '.BBDDDDss.', '..DDDssss.', '....ssss..')]}
 LEAF = {'L': '9adc60', 'B': '50a63c', 'D': '27632e'}
 SOIL, SHADOW = rgb('7e5a36'), .74
-EARS, BODY, GAP = rgb('f4d878'), rgb('d9ae48'), rgb('94692e')
+EAR, STRAW, SHADE = ([rgb(c) for c in tones] for tones in (
+    ('f4d878', 'eccb66', 'f8e194', 'e6c25e'), ('d9ae48', 'cfa443', 'e0b853'), ('a87834', 'b3833b')))
+
+
+def endless(plants, s):
+    """The plants of a cell, (y, x, what) in pixels of its box, and of the cells
+    around it, from back to front."""
+    for i in range(-2, 3):
+        for j in range(-2, 3):
+            for y, x, what in plants:
+                yield y + s * 16 * (i + j), x + s * 32 * (i - j), what
 
 
 def growing(s):
-    """Rows of single tufts with clean soil between."""
+    """Rows of single tufts, large and small, with soil between."""
     rnd = np.random.RandomState(541)
     mask = diamond_mask(1, s)
     furrows = pair(13, s)[..., :3] / 255.
     furrows = furrows / furrows[mask].mean(0) - 1
-    img = SOIL * (1 + .55 * furrows)
+    img = SOIL * (1 + .75 * furrows)
     tufts = []
     for row in range(ROWS):
+        phase = 6.28 * rnd.rand()
         for k in range(TUFTS):
-            u = (k + .4 * row + .14 * (rnd.rand() - .5)) / TUFTS
-            v = (row + .5) / ROWS
-            x, y = int(round(s * (32 + 32 * (u - v)))) - 2 * s, int(round(s * 16 * (u + v))) - 2 * s
-            tufts.append((y, x, SHAPES[s][rnd.randint(len(SHAPES[s]))], 1 + .09 * (2 * rnd.rand() - 1)))
-    for i in range(-2, 3):
-        for j in range(-2, 3):
-            for y, x, shape, tone in sorted(tufts, key=lambda t: t[:2]):
-                for dy, line in enumerate(shape):
-                    for dx, c in enumerate(line):
-                        px, py = x + dx + s * 32 * (i - j), y + dy + s * 16 * (i + j)
-                        if c == '.' or not (0 <= px < TW * s and 0 <= py < TH * s):
-                            continue
-                        img[py, px] = img[py, px] * SHADOW if c == 's' else rgb(LEAF[c]) * tone
-    return rgba(img, mask)
+            u = (k + .4 * row + .36 * (rnd.rand() - .5)) / TUFTS
+            v = (row + .5) / ROWS + .012 * np.sin(6.28 * u + phase) + .020 * (rnd.rand() - .5)
+            size = int(len(SHAPES[s]) * rnd.rand() ** .8)
+            tone = 1 + .14 * (2 * rnd.rand() - 1)
+            if rnd.rand() > .04:                                # a few did not come up
+                shape = SHAPES[s][size]
+                x, y = int(round(s * 32 * (1 + u - v))), int(round(s * 16 * (u + v)))
+                tufts.append((y - len(shape) + 2 * s, x - len(shape[0]) // 2, (shape, tone * np.array([1, 1, .94 + .1 * rnd.rand()]))))
+    for y, x, (shape, tone) in sorted(endless(tufts, s), key=lambda t: t[0] + len(t[2][0])):
+        for dy, line in enumerate(shape):
+            for dx, c in enumerate(line):
+                px, py = x + dx, y + dy
+                if c == '.' or not (0 <= px < TW * s and 0 <= py < TH * s):
+                    continue
+                img[py, px] = img[py, px] * SHADOW if c == 's' else rgb(LEAF[c]) * tone
+    return rgba(np.clip(img, 0, 1), mask)
 
 
 def ripe(s):
-    """Bands along the furrows: a light line of ears, the straw below it and a
-    narrow gap, each with a little grain."""
+    """Ear before ear, each on its straw, lighter and darker as the wind lies on
+    the field; along the furrows they stand thinner."""
     rnd = np.random.RandomState(551)
-    y, x = np.mgrid[0:TH * s, 0:TW * s] / s
-    down = (2 * y - x + 32) % 64 * BANDS / 64 % 1 * 32 / BANDS     # units below the band's top
-    grain = rnd.rand(TH * s, TW * s)[..., None]
-    down = down[..., None]
-    ears = EARS * np.where(grain < .22, .91, 1.)
-    body = BODY * np.where(grain < .30, .90, np.where(grain > .86, 1.09, 1.))
-    gap = np.where(grain < .25, BODY * .80, GAP)
-    return rgba(np.where(down < 2, ears, np.where(down < 4, body, gap)), diamond_mask(1, s))
+    wind = .92 + .16 * (.6 * torus_noise(3, 552, s) + .4 * torus_noise(5, 553, s))
+    img = np.empty((TH * s, TW * s, 3))
+    img[:] = SHADE[0]
+    ears = []
+    rows, n = EARS[0], EARS[1] * s
+    for row in range(rows):
+        for k in range(n):
+            u, v = (k + rnd.rand()) / n, (row + .5 + .9 * (rnd.rand() - .5)) / rows
+            thin = abs((v * ROWS) % 1 - .5) < .14 + .05 * np.sin(6.28 * u + row)
+            if rnd.rand() < (.62 if thin else .04):
+                continue
+            x, y = int(s * 32 * (1 + u - v)), int(s * 16 * (u + v))
+            ears.append((y, x, (rnd.randint(4), rnd.randint(3), rnd.randint(2), rnd.rand(), rnd.choice([-1, 0, 1]))))
+    for y, x, (e, t, d, high, lean) in sorted(endless(ears, s), key=lambda ear: ear[0]):
+        head, straw = (2, 2) if s == 1 else (3 + int(high * 2), 4)
+        stalk = [EAR[e]] * head + [STRAW[t]] * straw + [SHADE[d]] * s
+        if s == 2:
+            stalk[0] = stalk[0] * 1.05
+        for k, colour in enumerate(stalk):
+            px = x + (lean if s == 2 and k < head else 0)
+            py = y + k - len(stalk)
+            if 0 <= px < TW * s and 0 <= py < TH * s:
+                img[py, px] = colour
+            if s == 2 and 0 < k < head and 0 <= px + 1 < TW * s and 0 <= py < TH * s:
+                img[py, px + 1] = colour * .90                  # the ear's shaded side
+    return rgba(np.clip(img * wind[..., None], 0, 1), diamond_mask(1, s))
 
 
 def render():

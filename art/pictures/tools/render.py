@@ -14,6 +14,7 @@ import tempfile
 import time
 import numpy as np
 from iso import *
+from grounds import torus_noise
 
 DRAFT = bool(os.environ.get('ART_DRAFT'))
 SS = 4 if DRAFT else 8
@@ -192,13 +193,20 @@ def finished(samples, kind, opts, s):
     foot = footprint(w, h, ox, oy, n, s)
     u, v = cell_uv(w, h, ox, oy, s=s)
     fade = opts.get('fade', 'xy')               # towards which edges shadows fade out
-    rim = np.ones((h * s, w * s))               # 0..1 over 5 units from the rim
+    reach = opts.get('reach', 5)                # over so many units from the rim
+    rim = np.ones((h * s, w * s))
     for axis, t in (('x', u), ('y', v)):
         if axis in fade:
-            rim = np.minimum(rim, np.minimum(t, n - t) * 32 / 5)
+            rim = np.minimum(rim, np.minimum(t, n - t) * 32 / reach)
     rim = np.clip(rim, 0, 1)[..., None]
     shade = 1 - (1 - np.clip(shade, 0, 1)) * (rim * rim * (3 - 2 * rim))
     comp = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(grass_canvas(w, h, ox, oy, s)) * shade)
+    for axis, t in (('x', u), ('y', v)):
+        if axis in opts.get('void', ''):        # the black begins there: end raggedly in it
+            ragged = np.zeros(u.shape)
+            box(ragged, ox - 32, oy, 64, 32, s)[:] = torus_noise(23, 71, s) - .5
+            d = np.clip((n - t) / .26 + 1.2 * ragged * (n - t < .26), 0, 1)
+            comp = comp * (c3 + (1 - c3) * (d * d * (3 - 2 * d))[..., None])
     above = (cov >= .5) & ~foot & ~below(w, h, ox, oy, n, s)
     if kind in ('flat', 'tile'):
         above[:] = False

@@ -19,18 +19,20 @@ from iso import *
 # one that the sun reaches, up and left.
 PROFILE = [
     (0.000, '6a933b'), (0.025, '557a2e'),
-    (0.055, '4b4437'), (0.085, 'e0d7c0'), (0.125, 'cdc3ab'), (0.150, '766e60'),
-    (0.175, '9a9282'), (0.235, '928a7a'), (0.290, '9c9484'), (0.330, '8b8373'),
-    (0.375, '9d9585'), (0.430, 'a59d8d'), (0.490, 'a09888'), (0.540, 'a79f8f'),
-    (0.600, '9d9585'), (0.640, '8a8272'), (0.685, '9a9282'), (0.750, '8f8777'),
-    (0.790, '989080'), (0.835, '6c6456'), (0.860, 'cbc1a8'), (0.900, 'aaa089'), (0.925, '443d31'),
+    (0.055, '54452f'), (0.085, 'e9dcbf'), (0.125, 'd3c4a1'), (0.150, '75634a'),
+    (0.175, 'a4967f'), (0.200, 'b4a68e'), (0.300, 'a79880'), (0.313, 'aea087'),
+    (0.345, 'a89a81'), (0.420, 'ad9f86'), (0.435, 'a3957d'), (0.448, 'b8aa91'), (0.500, 'baad95'),
+    (0.555, 'b6a890'), (0.565, 'a3957d'), (0.578, 'ab9c84'), (0.600, 'a5967f'), (0.670, 'ab9c85'),
+    (0.690, 'a1927a'), (0.703, 'b2a38b'), (0.790, 'ad9f86'), (0.810, '9a8c76'),
+    (0.835, '6c5a42'), (0.860, 'd2c19b'), (0.900, 'b5a27c'), (0.925, '483a28'),
     (0.955, '557a2e'), (0.980, '6a933b'), (1.001, '6a933b')]
 STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
 EDGES = np.array([e for e, _ in PROFILE])
-STONES = np.array([rgb(c) for c in ('9d9585', '979080', 'a39b8b', '9a9282')])
-JOINT, LIT = rgb('8d8575'), rgb('a9a190')
+STONES = np.array([rgb(c) for c in ('b3a58c', 'ab9c84', 'baac94', 'afa088', 'b8a991', 'a79981')])
+JOINT, LIT = rgb('998b75'), rgb('c5b79e')
+THRESHOLD = np.array([rgb(c) for c in ('dccfb3', 'd3c6a9', 'e1d5ba', 'd7caae')])
 COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
 
 
@@ -119,47 +121,48 @@ def corner(vertex, s):
     return exact_arms(img, vertex, s)
 
 
-def setts(s):
-    """Small stones in bond over a cell, in the greys of the road, and where
-    they lie: not by the kerbs, and fewer towards the edges, so that no line
-    crosses an arm."""
-    rnd = np.random.RandomState(37)
-    y, x = np.mgrid[0:TH * s, 0:TW * s] / s
-    a = np.clip(x + 2 * y - 32, 0, 63.5)            # 64 steps along u, 64 along v
-    b = np.clip(2 * y - x + 32, 0, 63.5) + 4 * (a // 8 % 2)
-    row, stone = (a // 8).astype(int), (b // 8).astype(int)
-    tone = rnd.randint(len(STONES), size=(8, 9))[row, stone]
-    chance = rnd.rand(8, 9)[row, stone]
-    col = STONES[tone]
-    col = np.where(((a % 8 < 2) | (b % 8 < 2))[..., None], JOINT, col)
-    lit = (a % 8 >= 2) & (a % 8 < 4) & (b % 8 >= 2) & (b % 8 < 4)
-    col = np.where(lit[..., None], LIT, col)
-    u, v = (row + .5) / 8, (stone * 8 + 4 - 4 * (row % 2)) / 64
-    du, dv = np.minimum(u, 1 - u), np.minimum(v, 1 - v)
-    laid = (np.hypot(du, dv) > .30) & (chance < (np.minimum(du, dv) - .01) / .17)
-    return col, laid
+def paving(at, size, tones, joint, seed, s):
+    """Colour of stones laid in a grid: `at` how far along both edges, in units of
+    which a stone takes `size`.  Each has a joint before it and a lit rim."""
+    (a, b), (m, n) = at, size
+    row, stone = np.floor(a / m).astype(int), np.floor(b / n).astype(int)
+    rnd = np.random.RandomState(seed)
+    tone = rnd.randint(len(tones), size=(80, 80))[row % 80, stone % 80]
+    inner = np.minimum(a - row * m, b - stone * n)          # from the joint
+    col = np.where((inner < 2.1 - .4 * s)[..., None], joint, tones[tone])
+    lit = (inner >= 2.1 - .4 * s) & (inner < 4. - .7 * s)
+    return np.where(lit[..., None], col + .5 * (LIT - col), col)
 
 
 def junction(s):
-    """Four arms; each quarter of the cell turns round its own vertex, and the
-    wheel tracks end in small paving as sharp as they are.  The picture also
-    stands where three arms meet, so nothing in it may mark a side as open or
-    closed."""
-    def paint(u, v):
+    """Four arms: a kerb round each vertex, small setts between them, and across
+    each mouth a row of larger stones.  The picture also stands where three arms
+    meet: on an open side that row is a step over which the road goes on, on a
+    closed one it is the kerb."""
+    u, v = cell_uv(s=s)
+    a, b = u * 64, v * 64
+    small = paving((a, b + 4 * (np.floor(a / 8) % 2)), (8, 8), STONES, JOINT, 37, s)
+    mouth = np.minimum(np.minimum(u, 1 - u), np.minimum(v, 1 - v))
+    along = np.where(np.minimum(u, 1 - u) < np.minimum(v, 1 - v), b, a)
+    step = paving((np.full_like(a, 5.), along - 11.2), (99, 8.32), THRESHOLD, JOINT, 38, s)
+    img = np.where((mouth < .078)[..., None], step, small)
+    img = np.where(((mouth >= .078) & (mouth < .094))[..., None], rgb('8a7a60'), img)
+    img = np.where((mouth < .016)[..., None], rgb('85765d'), img)
+
+    def kerbs(u, v):
         out = np.zeros(u.shape + (3,))
         for cu, cv in VERTEX.values():
             here = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
-            a, b = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
-            out[here] = shaded(a, b, cu, cv, s, .5)[here]
+            p, q = np.minimum(np.abs(u - cu), .499), np.minimum(np.abs(v - cv), .499)
+            out[here] = shaded(p, q, cu, cv, s, .185)[here]
         return out
 
-    stones, laid = setts(s)
-    img = rgba(np.where(laid[..., None], stones, to_srgb(supersampled(paint, s))), diamond_mask(1, s))
-    u, v = cell_uv(s=s)
+    far = supersampled(lambda u, v: (turn(np.minimum(u, 1 - u), np.minimum(v, 1 - v)) > .175).astype(float)[..., None], s)
+    img = rgba(to_srgb(to_lin(img) * far + supersampled(kerbs, s) * (1 - far)), diamond_mask(1, s))
     for name, (cu, cv) in VERTEX.items():
         quarter = ((u > .5) == bool(cu)) & ((v > .5) == bool(cv))
         kerb = np.maximum(np.abs(u - cu), np.abs(v - cv)) < .17
-        walked = (u > 1 - STRAIGHT) & (v < .30)
+        walked = (u > 1 - STRAIGHT) & (v < .31)
         exact_arms(img, name, s, quarter & (kerb | walked))
     return img
 

@@ -26,7 +26,7 @@ def free(s=1):
 
 
 def frame(samples, along, s):
-    col, cov, shade = scenes.averaged(samples, {'thin': .42, 'jump': .05, 'line': .5}, s)
+    col, cov, shade = scenes.averaged(samples, {'thin': .5, 'jump': .05, 'line': .68}, s)
     col = unsharp(grade(col, 1.12, 1.2, 1.12), cov > .02, .5, .7)
     road, c3 = patch(along, s), cov[..., None]
     mix = to_srgb(c3 * to_lin(col) + (1 - c3) * to_lin(road[..., :3] / 255.) * np.clip(shade, 0, 1))
