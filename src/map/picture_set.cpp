@@ -7,6 +7,7 @@ namespace map {
 namespace {
 
 using enum PictureFile::Kind;
+using platform::Rect;
 using platform::Size;
 
 constexpr Size kFlat{64, 32};
@@ -14,8 +15,6 @@ constexpr Size kSide{63, 33};  // the flat side pieces of the apartment
 constexpr Size kTall{64, 64};
 constexpr Size kWalker{12, 17};
 constexpr Size kWater{288, 144};
-
-constexpr int kWorkingSlot = 21;
 
 constexpr std::array<PictureFile, 65> kFiles{{
     // clang-format off
@@ -95,7 +94,7 @@ std::string pathOf(const PictureFile& file, const std::string& folder) {
   return path + ".png";
 }
 
-std::string inWords(Size size) {
+std::string inWords(const Rect& size) {
   return std::to_string(size.width) + " x " + std::to_string(size.height);
 }
 
@@ -103,13 +102,13 @@ bool read(PictureSet& set, const PictureFile& file, const std::string& path, std
   const auto n = static_cast<std::size_t>(file.number);
   switch (file.kind) {
     case pair:
-      return platform::readPngPair(path, set.picTile[n], set.picMask[n], error);
+      return platform::readPngPair(path, set.picTile[n], set.picMask[n], error, set.scale());
     case tile:
-      return platform::readPng(path, set.picTile[n], error);
+      return platform::readPng(path, set.picTile[n], error, set.scale());
     case mask:
-      return platform::readPng(path, set.picMask[n], error);
+      return platform::readPng(path, set.picMask[n], error, set.scale());
     case both:
-      if (!platform::readPng(path, set.picTile[n], error)) return false;
+      if (!platform::readPng(path, set.picTile[n], error, set.scale())) return false;
       set.picMask[n] = set.picTile[n].clone();
       return true;
   }
@@ -118,9 +117,9 @@ bool read(PictureSet& set, const PictureFile& file, const std::string& path, std
 
 }  // namespace
 
-PictureSet::PictureSet() {
-  picTile[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height);
-  picMask[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height);
+PictureSet::PictureSet(int scale) {
+  picTile[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height, scale);
+  picMask[kWorkingSlot] = platform::Surface(kWalker.width, kWalker.height, scale);
 }
 
 std::span<const PictureFile> pictureFiles() {
@@ -133,9 +132,10 @@ bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& fo
   if (!read(set, file, path, error)) return false;
   const auto n = static_cast<std::size_t>(file.number);
   const platform::Surface& loaded = file.kind == mask ? set.picMask[n] : set.picTile[n];
-  const Size size{loaded.width(), loaded.height()};
-  if (size == file.size) return true;
-  error = path + ": is " + inWords(size) + " pixels, not " + inWords(file.size);
+  const Rect wanted{0, 0, file.size.width, file.size.height};
+  if (loaded.bounds() == wanted) return true;
+  error = path + ": is " + inWords(loaded.pixelBounds()) + " pixels, not " +
+          inWords(loaded.inPixels(wanted));
   return false;
 }
 

@@ -14,12 +14,15 @@
 namespace map {
 
 inline constexpr int kPictures = 63;  // numbers 0 .. 62
+inline constexpr int kWorkingSlot = 21;
 
 struct PictureSet {
   std::array<platform::Surface, kPictures> picTile;
   std::array<platform::Surface, kPictures> picMask;
 
-  PictureSet();
+  /// An empty set for surfaces of one scale.
+  explicit PictureSet(int scale = 1);
+  int scale() const { return picTile[kWorkingSlot].scale(); }
 };
 
 /// Where the file of a picture stands below the folder of the map pictures, and which of the two
@@ -32,13 +35,13 @@ struct PictureFile {
     mask,  // "mask/NN.png": opaque, fills picMask
     both,  // "tile/NN.png": opaque, fills both alike
   } kind;
-  platform::Size size;
+  platform::Size size;  // in units
 };
 
 /// The files of the whole set.
 std::span<const PictureFile> pictureFiles();
 
-/// Loads one file of the set from `folder`. False, with the name of the file and what is wrong in
+/// Loads one file of the set from `folder`, which holds pictures of the set's scale. False, with the name of the file and what is wrong in
 /// `error`, when it is missing, damaged or of another size.
 bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& folder,
                  std::string& error);

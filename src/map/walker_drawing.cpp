@@ -13,7 +13,6 @@ using core::CellOffset;
 using core::GameState;
 using core::kWalkers;
 
-constexpr int kWorkingSlot = 21;
 constexpr int kBlockWidth = 12;
 constexpr int kBlockHeight = 17;
 

@@ -18,7 +18,7 @@ class Display {
   /// Asks for a drawing surface of this size that fills the display. 0 when it was given, also when
   /// it had been given before; any other number when it was refused.
   virtual int change(Size size) = 0;
-  /// Shows the given rectangles of the framebuffer (800 x 600).
+  /// Shows the given rectangles of the framebuffer (800 x 600 units).
   virtual void present(const Surface& framebuffer, std::span<const Rect> changed) = 0;
   /// Shows a message with an OK button where no screen of the program stands yet, and on standard
   /// error. Returns when it was read.

@@ -15,7 +15,7 @@ class Painter {
   explicit Painter(Font& font);
   ~Painter();
 
-  /// Brings the framebuffer (800 x 600) up to date with the desk's open screen and whatever floats
+  /// Brings the framebuffer (800 x 600 units) up to date with the desk's open screen and whatever floats
   /// above it. Returns the rectangles that changed; none when nothing did.
   const DamageList& paint(Surface& framebuffer, Desk& desk, std::int64_t now);
 

@@ -10,9 +10,14 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/scaler_axis.h"
 #include "platform/surface.h"
 
 namespace platform {
+
+/// The scale at which the program draws on a desktop of this size: 2 where the picture of 800 x 600
+/// would be enlarged to more than 1.25 times its size, else 1.
+int scaleFor(Size desktop);
 
 /// Memory of 32-bit pixels, as displays have it: by how many bits each colour is shifted.
 struct PixelMemory {
@@ -25,39 +30,47 @@ struct PixelMemory {
 
 class Scaler {
  public:
-  /// A picture of size `picture` on a display of size `display`; both at least 1 x 1.
-  Scaler(Size picture, Size display);
+  /// A surface of `picture` units and this scale on a display of `display` pixels; both sizes at least
+  /// 1 x 1.
+  Scaler(Size picture, Size display, int scale = 1);
 
   /// Where the picture lies on the display.
   const Rect& place() const { return place_; }
   bool whole() const { return whole_; }
 
-  /// Pixels of the display that change with the given pixels of the picture.
+  /// Pixels of the display that change with the given units of the picture.
   Rect covered(const Rect& picturePart) const;
   /// Writes `part`, a rectangle of the display within `place`, from the picture.
   void scale(const Surface& picture, const Rect& part, const PixelMemory& display);
-  /// The picture's pixel at a point of the display; beyond the picture the nearest one of its rim.
+  /// The picture's unit at a point of the display; beyond the picture the nearest one of its rim.
   Point pictured(Point onDisplay) const;
 
  private:
-  // What a pixel of the display takes: of `first` all but `share`, of the pixel behind it `share`,
-  // in parts of 256.
-  struct Tap {
-    int first = 0;
-    int share = 0;
-  };
-  static std::vector<Tap> taps(int from, int to);
   const std::uint32_t* stretchedRow(const Surface& picture, int row, const Rect& part,
                                     const PixelMemory& display);
+  void grow(std::uint32_t* to, int begin, int end);
+  void shrink(std::uint32_t* to, int begin, int end) const;
 
-  Size picture_;
+  int scale_;
+  Size picture_;  // in pixels
   Rect place_{};
   bool whole_ = false;
-  std::vector<Tap> columns_;
-  std::vector<Tap> rows_;
-  std::vector<std::uint32_t> packed_;        // a row of the picture in the display's order of bits
-  std::vector<std::uint32_t> stretched_[2];  // rows of the picture at the display's width
-  int stretchedRows_[2] = {-1, -1};
+  ScalerAxis columns_;
+  ScalerAxis rows_;
+  // A row of the picture in the display's order of bits. Behind it, where the picture grows, what
+  // lies on the borders of its pixels: on each border lies at most one pixel of the display.
+  std::vector<std::uint32_t> packed_;
+  std::vector<std::uint16_t> borders_;  // for every byte of that: how much is of the later pixel
+  std::vector<int> sources_;            // for every column of the display: where it is in `packed_`
+  // Rows of the picture at the display's width: as many as a row of the display takes of.
+  std::vector<std::vector<std::uint32_t>> stretched_;
+  std::vector<int> stretchedRows_;
+  struct Taken {
+    const std::uint8_t* row;
+    std::uint16_t share;
+  };
+  std::vector<Taken> taken_;         // what one row of the display takes of
+  std::vector<std::uint16_t> sums_;  // of more than two rows
 };
 
 }  // namespace platform

@@ -15,7 +15,7 @@ Program::Program(Services& services)
       progress_(services.programFolder),
       desk_(*services.assets.font),
       painter_(*services.assets.font),
-      framebuffer_(platform::kScreenWidth, platform::kScreenHeight) {}
+      framebuffer_(platform::kScreenWidth, platform::kScreenHeight, services.assets.scale()) {}
 
 Program::~Program() {
   desk_.open(nullptr, nullptr);
@@ -44,7 +44,8 @@ void Program::openGame() {
   while (readAhead()) {
   }
   if (ended_) return;
-  if (canvas_.surface().empty()) canvas_ = platform::Canvas(kMapSurface.width, kMapSurface.height);
+  if (canvas_.surface().empty())
+    canvas_ = platform::Canvas(kMapSurface.width, kMapSurface.height, services_.assets.scale());
   auto game = std::make_unique<GameScreen>(*this);
   GameScreen& opened = *game;
   const bool cityTakenOver = opened.load();

@@ -11,7 +11,7 @@ bool ImageSet::load(const std::string& folder, const char* name, platform::Size 
   if (images_.contains(name)) return true;
   platform::Surface surface;
   const std::string path = folder + "/" + name + ".png";
-  if (!platform::readPng(path, surface, error)) return false;
+  if (!platform::readPng(path, surface, error, scale_)) return false;
   if (surface.width() > largest.width || surface.height() > largest.height) {
     error = path + ": the picture is larger than its place";
     return false;
@@ -44,8 +44,8 @@ const platform::Surface* ImageSet::find(std::string_view name) const {
 }
 
 bool Assets::open(const std::string& dataFolder, std::string& error) {
-  folder_ = dataFolder + "/pictures";
-  font = platform::Font::open(dataFolder + "/font.otf", error);
+  folder_ = dataFolder + (scale() == 1 ? "/pictures" : "/pictures/2x");
+  font = platform::Font::open(dataFolder + "/font.otf", error, scale());
   return font != nullptr && images.loadMenu(folder_ + "/panel", error);
 }
 

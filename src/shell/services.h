@@ -21,6 +21,8 @@ namespace shell {
 /// The pictures of panels and screens, by the name of their file.
 class ImageSet {
  public:
+  /// Of pictures of one scale.
+  explicit ImageSet(int scale) : scale_(scale) {}
   /// Loads the pictures that the menu names from `folder`, or those that the game screen names; what
   /// is there already is kept. False, with the file's name and what is wrong in `error`.
   bool loadMenu(const std::string& folder, std::string& error);
@@ -34,6 +36,7 @@ class ImageSet {
   bool load(const std::string& folder, const char* name, platform::Size largest,
             std::string& error);
 
+  int scale_;
   std::map<std::string, platform::Surface, std::less<>> images_;
 };
 
@@ -44,6 +47,10 @@ class Assets {
   std::unique_ptr<platform::Font> font;
   map::PictureSet pictures;
   ImageSet images;
+
+  /// What is to be drawn at a scale of 1 or 2.
+  explicit Assets(int scale = 1) : pictures(scale), images(scale) {}
+  int scale() const { return pictures.scale(); }
 
   /// Reads what the menu shows. False, with the file's name and what is wrong in `error`.
   bool open(const std::string& dataFolder, std::string& error);

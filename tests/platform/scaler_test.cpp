@@ -72,6 +72,37 @@ TEST(Scaler, FillsAndKeepsTheAspectGivesPartsAsTheWholeAndLeadsThePointerBack) {
   }
 }
 
+TEST(Scaler, TakesOfEveryPixelThePartThatIsCoveredUpAndDown) {
+  Dice dice(9);
+  const Surface picture = noise(dice, 40, 30);
+  for (const Size display : {Size{72, 54}, Size{36, 27}, Size{25, 19}, Size{9, 7}}) {
+    Scaler scaler({40, 30}, display);
+    const Rect& place = scaler.place();
+    Screen screen(display);
+    screen.scale(scaler, picture, place);
+    const auto part = [](int i, int pixel, int from, int to) {
+      return std::max(0.0, std::min(double(i + 1) * from / to, pixel + 1.0) -
+                               std::max(double(i) * from / to, double(pixel)));
+    };
+    double worst = 0;
+    for (int y = 0; y < place.height; ++y) {
+      for (int x = 0; x < place.width; ++x) {
+        double sum = 0, all = 0;
+        for (int row = 0; row < 30; ++row) {
+          for (int column = 0; column < 40; ++column) {
+            const double share = part(x, column, 40, place.width) * part(y, row, 30, place.height);
+            sum += share * picture.pixel(column, row).g;
+            all += share;
+          }
+        }
+        const int shown = screen.at(place.left + x, place.top + y).g;
+        worst = std::max(worst, std::abs(sum / all - shown));
+      }
+    }
+    EXPECT_LT(worst, 2.5) << display.width;
+  }
+}
+
 TEST(Scaler, BlendsByTheShareThatIsCovered) {
   // At 3 : 2 every third pixel of a row lies half on one pixel of the picture and half on the next.
   Surface bars(2, 2);

@@ -1,7 +1,8 @@
-// vellmoran-driver FOLDER [--data DIR] < script: the whole program without a window, driven by commands
+// vellmoran-driver FOLDER [--data DIR] [--scale 1|2] < script: the whole program without a window, driven by commands
 // on standard input. One answer a command; exit status 1 if any command failed, 2 if the program could
 // not start.
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
 #include <string>
 
@@ -11,11 +12,15 @@
 int main(int argc, char** argv) {
   std::string folder;
   std::string data = platform::executableFolder() + "/data";
+  int scale = 1;
   bool usable = true;
   for (int n = 1; n < argc; ++n) {
     const std::string argument = argv[n];
     if (argument == "--data" && n + 1 < argc) {
       data = argv[++n];
+    } else if (argument == "--scale" && n + 1 < argc) {
+      scale = std::atoi(argv[++n]);
+      usable = usable && (scale == 1 || scale == 2);
     } else if (folder.empty() && !argument.starts_with("--")) {
       folder = argument;
     } else {
@@ -23,11 +28,11 @@ int main(int argc, char** argv) {
     }
   }
   if (folder.empty() || !usable) {
-    std::fprintf(stderr, "usage: vellmoran-driver FOLDER [--data DIR] < script\n");
+    std::fprintf(stderr, "usage: vellmoran-driver FOLDER [--data DIR] [--scale 1|2] < script\n");
     return 2;
   }
   std::string error;
-  const auto assets = driver::Session::loadAssets(data, error);
+  const auto assets = driver::Session::loadAssets(data, error, scale);
   const auto session = assets ? driver::Session::start(folder, assets, error) : nullptr;
   if (session == nullptr) {
     std::fprintf(stderr, "vellmoran-driver: %s\n", error.c_str());

@@ -19,8 +19,8 @@ std::uint64_t seedFromClock() {
 Session::Session() : random_(&clock_, seedFromClock()), walkerRandom_(&clock_, ~seedFromClock()) {}
 
 std::shared_ptr<shell::Assets> Session::loadAssets(const std::string& dataFolder,
-                                                   std::string& error) {
-  auto assets = std::make_shared<shell::Assets>();
+                                                   std::string& error, int scale) {
+  auto assets = std::make_shared<shell::Assets>(scale);
   return assets->load(dataFolder, error) ? assets : nullptr;
 }
 

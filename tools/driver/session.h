@@ -17,9 +17,9 @@ class Session {
   /// `error`, when it can't be started. Sessions that follow one another may share their assets.
   static std::unique_ptr<Session> start(const std::string& folder,
                                         std::shared_ptr<shell::Assets> assets, std::string& error);
-  /// Reads pictures and font. Null, with the reason in `error`, when something is missing.
+  /// Reads pictures and font for drawing at a scale. Null, with the reason in `error`, when something is missing.
   static std::shared_ptr<shell::Assets> loadAssets(const std::string& dataFolder,
-                                                   std::string& error);
+                                                   std::string& error, int scale = 1);
 
   shell::Program& program() { return *program_; }
   shell::Services& services() { return *services_; }
