@@ -91,10 +91,10 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   for (int n = 0; n < 6; ++n) t[seer + n] = view(n, kViews[n]);
   t[Frame15] = frame("Frame15", Frame6, {16, 184, 145, 34}, kPanel);
   t[Image5] = wholeImage("Image5", Frame15, 145, 34);
-  t[Statusreport] = knob("Statusreport", Frame15, {8, 5, 129, 23}, "STATUS");
+  t[Statusreport] = knob("Statusreport", Frame15, {5, 5, 135, 23}, "STATUS");
   t[Frame2] = frame("Frame2", Frame6, {16, 224, 145, 34}, kPanel);
   t[Image4] = wholeImage("Image4", Frame2, 145, 34);
-  t[Command5] = knob("Command5", Frame2, {8, 6, 129, 22}, "PREFERENCES");
+  t[Command5] = knob("Command5", Frame2, {5, 7, 135, 21}, "PREFERENCES");
   t[Frame1] = frame("Frame1", Frame6, {16, 264, 145, 258}, kPanel);
   t[Image6] = wholeImage("Image6", Frame1, 145, 258);
   t[Label4] =
@@ -117,11 +117,12 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Command1 + 8] = knob("Command1", Frame1, {8, 134, 57, 21}, "Farm", 8);
   t[Frame9] = frame("Frame9", Frame6, {16, 528, 145, 34}, kPanel);
   t[Image9] = wholeImage("Image9", Frame9, 145, 34);
-  t[gmmenu] = knob("gmmenu", Frame9, {8, 5, 129, 23}, "GAME MENU");
+  t[gmmenu] = knob("gmmenu", Frame9, {5, 5, 135, 23}, "GAME MENU");
   t[Frame7] = frame("Frame7", Frame6, {16, 568, 145, 34}, kPanel);
   t[Image7] = wholeImage("Image7", Frame7, 145, 34);
-  // The hover region of this row lies a little higher than its plate.
-  t[Label3] = knob("Label3", Frame7, {8, 3, 129, 21}, "GOALS");
+  // The caption is in the middle of its key, and presses count where it lights, a little higher.
+  t[Label3] = knob("Label3", Frame6, {21, 574, 135, 22}, "GOALS");
+  t[Label3].press = {21, 565, 135, 23};
 
   t[tileinfo] = hidden(frame("tileinfo", kNoParent, {kParked, 347, 141, 157}, kPanel));
   t[Image2] = wholeImage("Image2", tileinfo, 141, 157);

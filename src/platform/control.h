@@ -60,6 +60,7 @@ struct ControlDesign {
   Heading heading = Heading::none;
   const char* image = nullptr;  // name of the picture of an image control
   const char* tooltip = nullptr;
+  Rect press{};  // where in the parent it takes the pointer, if that is not its place
 };
 
 /// What a list shows: a drop-down list or a file list.

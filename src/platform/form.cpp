@@ -118,7 +118,9 @@ int Form::topmostIn(int parent, Point screen, Rect clip) const {
   for (auto at = inside.rbegin(); at != inside.rend(); ++at) {
     const Control& control = (*this)[*at];
     if (!control.visible || control.design->kind == ControlKind::line) continue;
-    const Rect place = intersection(moved(control.place, corner.x, corner.y), clip);
+    const Rect& press = control.design->press;
+    const Rect inParent = press.width > 0 ? press : control.place;
+    const Rect place = intersection(moved(inParent, corner.x, corner.y), clip);
     if (!place.contains(screen)) continue;
     const int child = topmostIn(*at, screen, place);
     return child >= 0 ? child : *at;

@@ -22,6 +22,24 @@ std::string upper(std::string text) {
   return text;
 }
 
+TEST(Panels, KeysOfTheSidePanelTakeAPressJustWhereTheyLight) {
+  OpenGame play;
+  for (const int key : {ui::Statusreport, ui::Command5, ui::gmmenu, ui::Label3}) {
+    const platform::Rect place = play.form().onScreen(key);
+    int lit = 0;
+    for (int y = place.top - 12; y < place.bottom() + 12; ++y) {
+      for (const int x : {644, 645, 712, 779, 780}) {
+        play.run("pointer " + number(x) + " " + number(y) + "\nadvance 25");
+        const bool lights = play.form()[key].fore == platform::kYellow;
+        const bool takes = play.session().program().desk().topmost({x, y}) == key;
+        EXPECT_EQ(takes, lights) << play.form()[key].design->name << " " << x << " " << y;
+        lit += lights;
+      }
+    }
+    EXPECT_GT(lit, 60);
+  }
+}
+
 TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
   OpenGame play;
   play.run("set population 1000\nadvance 1000\nclick Command21\nset gold 5000");
