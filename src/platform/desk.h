@@ -52,6 +52,15 @@ class Desk {
   void pointerMoved(Point screen);
   void buttonDown();
   void buttonUp();
+  /// The same at a point. The pointer moves there first, unless it is there already.
+  void buttonDown(Point at) {
+    if (!(pointer_ == at)) pointerMoved(at);
+    buttonDown();
+  }
+  void buttonUp(Point at) {
+    if (!(pointer_ == at)) pointerMoved(at);
+    buttonUp();
+  }
   /// Turns of the wheel, away from the player counted positive.
   void wheel(int steps);
   /// Text for the text box that has the focus, UTF-8.

@@ -25,12 +25,10 @@ void deliver(const platform::Event& event, shell::Program& program) {
       desk.pointerMoved(event.point);
       break;
     case Kind::down:
-      desk.pointerMoved(event.point);
-      desk.buttonDown();
+      desk.buttonDown(event.point);
       break;
     case Kind::up:
-      desk.pointerMoved(event.point);
-      desk.buttonUp();
+      desk.buttonUp(event.point);
       break;
     case Kind::wheel:
       desk.wheel(event.steps);

@@ -49,6 +49,15 @@ TEST_F(DeskRules, APressAndAReleaseOverTheSameControlMakeAClick) {
   EXPECT_EQ(told_.back(), (Told{"down", kMap, 601, 452}));
 }
 
+TEST_F(DeskRules, AButtonMovesThePointerOnlyToAnotherPoint) {
+  desk_.pointerMoved({500, 400});
+  for (int n = 0; n < 2; ++n) click({500, 400});
+  EXPECT_EQ(count("move", kMap, 600, 450), 1);
+  click({501, 402});
+  EXPECT_EQ(count("move", kMap, 601, 452), 1);
+  EXPECT_EQ(count("click", kMap), 3);
+}
+
 TEST_F(DeskRules, ADropDownOpensPicksAndClosesAndSwallowsAPressElsewhere) {
   const Point box = at(kCombo, 5, 5);
   click(box);
