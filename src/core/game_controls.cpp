@@ -140,13 +140,16 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Frame13].border = true;
   t[legendtitle] = label("legendtitle", Frame13, {8, 4, 425, 16}, "LEGEND:", FontSize::pt9);
   t[legendblue] =
-      label("legendblue", Frame13, {8, 21, 425, 16},
+      label("legendblue", Frame13, {40, 21, 393, 16},
             "Blue:Residences which have access to the selected building   ", FontSize::pt9);
   t[legendred] =
-      label("legendred", Frame13, {8, 38, 425, 16},
+      label("legendred", Frame13, {40, 38, 393, 16},
             "Red:Residences which do not have access to the selected building   ", FontSize::pt9);
-  t[legendgrey] = label("legendgrey", Frame13, {8, 55, 425, 16}, "Grey:Non residential buildings",
+  t[legendgrey] = label("legendgrey", Frame13, {40, 55, 393, 16}, "Grey:Non residential buildings",
                         FontSize::pt9);
+  t[swatchblue] = image("swatchblue", Frame13, {8, 22, 26, 14});
+  t[swatchred] = image("swatchred", Frame13, {8, 39, 26, 14});
+  t[swatchgrey] = image("swatchgrey", Frame13, {8, 56, 26, 14});
 
   t[Frame21] = hidden(frame("Frame21", kNoParent, {kParked, 560, 409, 25}, kFloating));
   t[Frame21].border = true;

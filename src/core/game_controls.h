@@ -68,6 +68,9 @@ enum Id : int {
   legendblue,
   legendred,
   legendgrey,
+  swatchblue,
+  swatchred,
+  swatchgrey,
   // Goal strip of the puzzles.
   Frame21,
   Label18,

@@ -24,9 +24,15 @@ DRAWINGS = {
 ODD_BOX = (5, 6)          # 63 x 33: drawn as 64 x 32, so nothing may be lost
 
 
+def lend_tip(pieces):
+    """At scale 2 the odd boxes end before the last two pixels of their diamond.
+    Those of the left piece lie within the building, and its neighbours take
+    them; those of the right piece stay as they were."""
+    pieces['n'][127, 62], pieces['s'][0, 62] = pieces['w'][31, 126], pieces['w'][32, 126]
+
+
 def fit(n, piece, s):
-    """The piece in the box of its picture.  At scale 2 two pixels of the tip
-    of the odd ones lie beyond their box."""
+    """The piece in the box of its picture."""
     if n not in ODD_BOX:
         return piece
     out = np.zeros((33 * s, 63 * s, 4), np.uint8)
@@ -44,6 +50,8 @@ def draw(name):
             save_pair(numbers[0], img, s)
             continue
         pieces = cut(img, table, s)
+        if name == 'apartment' and s == 2:
+            lend_tip(pieces)
         for n, (key, _, _) in zip(numbers, table):
             save_pair(n, fit(n, pieces[key], s), s)
 

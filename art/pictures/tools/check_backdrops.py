@@ -7,9 +7,10 @@ import sys
 from land import *
 
 PANELS = {'Image3': (623, 37), 'Image2': (141, 157), 'Image7': (145, 34), 'Image11': (145, 80), 'Image10': (145, 55), 'Image9': (145, 34),
-          'Image5': (145, 34), 'Image4': (145, 34), 'Image6': (145, 258), 'Image8': (178, 37), 'menu': (800, 600), 'Picture20': (12, 10), 'Picture21': (7, 7)}
+          'Image5': (145, 34), 'Image4': (145, 34), 'Image6': (145, 258), 'Image8': (178, 37), 'menu': (800, 600), 'Picture20': (12, 10), 'Picture21': (7, 7),
+          'swatchblue': (26, 14), 'swatchred': (26, 14), 'swatchgrey': (26, 14)}
 PANELS.update((n, (155, 33)) for n in ('Picture1', 'Picture2', 'Picture3', 'Picture5', 'Picture6', 'Picture7', 'Picture8', 'Picture9', 'ivir'))
-NO_CAPTION = ('menu', 'Image10', 'Picture20', 'Picture21')
+NO_CAPTION = ('menu', 'Image10', 'Picture20', 'Picture21', 'swatchblue', 'swatchred', 'swatchgrey')
 SIZES = {'mask/48': BAND[2:], 'tile/48': COAST[2:], 'tile/62': CASTLE[2:], 'mask/53': WATER, 'tile/53': WATER, 'mask/22': WATER}
 failed = []
 

@@ -61,7 +61,7 @@ def swatch(n, s):
     rim = np.minimum(np.minimum(x, 26 - x), np.minimum(y, 14 - y)) < 1
     out = np.empty(x.shape + (3,), np.uint8)
     out[:] = LEGEND[n]
-    out[rim | MARKS[n](32 + (x - 13) * 1.2, 16 + (y - 7) * 1.2)] = OUTLINE
+    out[rim | MARKS[n](x + 19, y + 9)] = OUTLINE
     return out
 
 
