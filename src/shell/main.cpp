@@ -9,6 +9,7 @@
 #include "platform/sdl/sdl_events.h"
 #include "platform/sdl/sdl_media.h"
 #include "shell/program.h"
+#include "shell/unsaved_city.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ void deliver(const platform::Event& event, shell::Program& program) {
       program.painter().forget();
       break;
     case Kind::quit:
+      shell::keepUnsavedCity(program);
       program.end(0);
       break;
   }
