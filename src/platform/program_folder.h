@@ -16,5 +16,7 @@ bool findProgramFolder(std::string& folder, std::string& error);
 
 /// Makes a folder the working folder. False, with what is wrong in `error`.
 bool enterFolder(const std::string& folder, std::string& error);
+/// The full name of the working folder; empty when it cannot be found out.
+std::string workingFolder();
 
 }  // namespace platform

@@ -1,7 +1,5 @@
 #include "driver/session.h"
 
-#include <unistd.h>
-
 #include <chrono>
 
 #include "platform/program_folder.h"
@@ -29,12 +27,11 @@ std::unique_ptr<Session> Session::start(const std::string& folder,
   auto session = std::unique_ptr<Session>(new Session);
   session->assets_ = std::move(assets);
   if (!platform::enterFolder(folder, error)) return nullptr;
-  char buffer[4096];
-  if (getcwd(buffer, sizeof buffer) == nullptr) {
+  session->folder_ = platform::workingFolder();
+  if (session->folder_.empty()) {
     error = folder + ": its full name cannot be found out";
     return nullptr;
   }
-  session->folder_ = buffer;
   session->services_ = std::make_unique<shell::Services>(shell::Services{session->clock_,
                                                                          session->random_,
                                                                          session->walkerRandom_,

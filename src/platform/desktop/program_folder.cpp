@@ -57,4 +57,9 @@ bool enterFolder(const std::string& folder, std::string& error) {
   return false;
 }
 
+std::string workingFolder() {
+  char path[PATH_MAX];
+  return getcwd(path, sizeof path) != nullptr ? path : "";
+}
+
 }  // namespace platform
