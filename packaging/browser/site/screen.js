@@ -1,0 +1,65 @@
+// The picture on the page: its place and size, and what the program shows on it.
+
+const WIDTH = 800;
+const HEIGHT = 600;
+const KEYS_ROOM = 44; // CSS pixels that the row of keys needs beside the picture
+
+const canvas = document.getElementById('game');
+const keys = document.getElementById('keys');
+const context = canvas.getContext('2d', { alpha: false });
+
+export class Screen {
+  constructor() {
+    this.arrange();
+    addEventListener('resize', () => this.arrange());
+    matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener('change', () => this.arrange());
+  }
+
+  // Whole factors where they fill nine tenths of the height, else smoothly; on whole pixels of the screen.
+  arrange() {
+    const room = { width: Math.round(innerWidth * devicePixelRatio), height: Math.round(innerHeight * devicePixelRatio) };
+    const fits = Math.min(room.width / canvas.width, room.height / canvas.height);
+    const whole = Math.floor(fits);
+    const factor = whole * canvas.height >= 0.9 * room.height ? whole : fits;
+    const size = { width: Math.round(canvas.width * factor), height: Math.round(canvas.height * factor) };
+    const left = Math.floor((room.width - size.width) / 2);
+    const top = Math.floor((room.height - size.height) / 2);
+    canvas.classList.toggle('whole', factor === Math.floor(factor));
+    const css = (pixels) => `${pixels / devicePixelRatio}px`;
+    Object.assign(canvas.style, { left: css(left), top: css(top), width: css(size.width), height: css(size.height) });
+    this.place = canvas.getBoundingClientRect();
+    this.arrangeKeys();
+  }
+
+  // Beside the picture or below it, else over its foot, seen only under the pointer.
+  arrangeKeys() {
+    const beside = this.place.left >= 2 * KEYS_ROOM;
+    const below = this.place.top >= KEYS_ROOM;
+    keys.style.flexDirection = beside ? 'column' : 'row';
+    keys.style.right = beside ? '8px' : '50%';
+    keys.style.transform = beside ? '' : 'translateX(50%)';
+    keys.style.bottom = '6px';
+    keys.style.maxWidth = beside ? `${this.place.left - 16}px` : '';
+    keys.classList.toggle('over', !beside && !below);
+  }
+
+  // Shows a rectangle of a picture of `width` pixels that begins at `address` of the module's memory.
+  show(memory, address, width, x, y, w, h) {
+    // Memory that grows is another memory: what pointed into it points nowhere.
+    if (this.memory !== memory.buffer || this.address !== address) {
+      this.memory = memory.buffer;
+      this.address = address;
+      const pixels = new Uint8ClampedArray(memory.buffer, address, canvas.width * canvas.height * 4);
+      this.image = new ImageData(pixels, width);
+    }
+    context.putImageData(this.image, 0, 0, x, y, w, h);
+  }
+
+  // The pixel of the layout at a point of the page; beyond the picture the nearest one of its rim.
+  pictured(event) {
+    const { left, top, width, height } = this.place;
+    const clamp = (value, last) => Math.max(0, Math.min(last, Math.floor(value)));
+    return [clamp((event.clientX - left) * WIDTH / width, WIDTH - 1),
+      clamp((event.clientY - top) * HEIGHT / height, HEIGHT - 1)];
+  }
+}
