@@ -41,10 +41,6 @@ constexpr ControlDesign hidden(ControlDesign design) {
   design.visible = false;
   return design;
 }
-constexpr ControlDesign tooltip(ControlDesign design, const char* text) {
-  design.tooltip = text;
-  return design;
-}
 
 constexpr ControlDesign frame(const char* name, int parent, Rect place, Color back) {
   return on(back, row(name, ControlKind::frame, parent, place));

@@ -72,12 +72,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
   t[Frame14] = frame("Frame14", kNoParent, {0, 0, 623, 37}, kPanel);
   t[Image3] = wholeImage("Image3", Frame14, 623, 37);
-  t[pop1] = tooltip(label("pop1", Frame14, {16, 8, 150, 20}, "Population:0"),
-                    "The population of your settlement");
-  t[para1] = tooltip(label("para1", Frame14, {176, 8, 140, 20}, "Gold:"),
-                     "The amount of gold in the treasury");
-  t[FoodS] =
-      tooltip(label("FoodS", Frame14, {328, 8, 130, 20}, "Food:0"), "The amount of food stored");
+  t[pop1] = label("pop1", Frame14, {16, 8, 150, 20}, "Population:0");
+  t[para1] = label("para1", Frame14, {176, 8, 140, 20}, "Gold:");
+  t[FoodS] = label("FoodS", Frame14, {328, 8, 130, 20}, "Food:0");
   t[tarih] = label("tarih", Frame14, {472, 8, 140, 20}, "Date: ");
 
   t[Frame6] = frame("Frame6", kNoParent, {624, -16, 177, 618}, kPanel);

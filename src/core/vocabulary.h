@@ -126,6 +126,11 @@ constexpr const BlockDesign& blockOfTool(int tool) {
   }
 }
 
+/// The service of the building that a tool places, 1..5; 0 where it is none.
+constexpr int serviceOfTool(int tool) {
+  return tool == kDoctorTool ? kDoctor : serviceOfCode(blockOfTool(tool).firstCode);
+}
+
 /// One row for each tool: what it costs, and what the palette says of it.
 struct ToolDesign {
   int price;            // gold, paid once

@@ -59,7 +59,6 @@ struct ControlDesign {
   bool visible = true;
   Heading heading = Heading::none;
   const char* image = nullptr;  // name of the picture of an image control
-  const char* tooltip = nullptr;
   Rect press{};  // where in the parent it takes the pointer, if that is not its place
 };
 
@@ -72,8 +71,9 @@ struct ListContent {
 
 struct Control {
   const ControlDesign* design = nullptr;
-  Rect place{};  // position in the parent, and size
-  Text text;     // a text box holds what was typed in it
+  Rect place{};         // position in the parent, and size
+  std::string tooltip;  // shown while the pointer rests on it; empty for none
+  Text text;            // a text box holds what was typed in it
   Color fore{};
   Color back{};
   bool border = false;

@@ -14,7 +14,7 @@ void Desk::open(Form* form, FormListener* listener) {
   form_ = form;
   listener_ = listener;
   ++opened_;
-  pressed_ = focus_ = openList_ = openListRow_ = scrolled_ = hovered_ = -1;
+  pressed_ = focus_ = openList_ = openListRow_ = scrolled_ = hovered_ = hoveredEntry_ = -1;
   caret_ = 0;
 }
 
@@ -38,17 +38,21 @@ void Desk::pointerMoved(Point screen) {
     dragScrollBar();
     return;
   }
-  const int id = topmost(screen);
-  if (id != hovered_) {
-    hovered_ = id;
-    restsSince_ = now_;
-  } else if (restsSince_ >= 0 && now_ - restsSince_ < kTooltipDelay) {
-    restsSince_ = now_;
-  }
+  lookUnderPointer();
   openListRow_ = entryOfOpenList(screen);
+  const int id = hovered_;
   if (id < 0 || listener_ == nullptr) return;
   const Rect place = form_->onScreen(id);
   listener_->onMouseMove(id, screen.x - place.left, screen.y - place.top);
+}
+
+void Desk::lookUnderPointer() {
+  const int id = topmost(pointer_);
+  const int entry = id < 0 ? -1 : entryOfFileList(id);
+  const bool another = id != hovered_ || entry != hoveredEntry_;
+  hovered_ = id;
+  hoveredEntry_ = entry;
+  if (another || (restsSince_ >= 0 && now_ - restsSince_ < kTooltipDelay)) restsSince_ = now_;
 }
 
 void Desk::buttonDown() {
@@ -119,6 +123,7 @@ void Desk::wheel(int steps) {
   ListContent& list = *control(id).list;
   const ListLayout layout = listLayout(form_->onScreen(id), list);
   list.top = std::clamp(layout.top - 3 * steps, 0, layout.last);
+  lookUnderPointer();
 }
 
 // Drop-down lists.
@@ -171,6 +176,12 @@ bool Desk::choose(int id, std::string_view entry) {
 }
 
 // File lists.
+
+int Desk::entryOfFileList(int id) const {
+  if (control(id).design->kind != ControlKind::fileList) return -1;
+  const ListContent& list = *control(id).list;
+  return listEntryAt(listLayout(form_->onScreen(id), list), list, pointer_);
+}
 
 void Desk::pressList(int id) {
   ListContent& list = *control(id).list;
@@ -327,7 +338,7 @@ void Desk::showBox(std::string_view title, std::string_view text) {
   MessageBox& box = boxes_[static_cast<std::size_t>(boxCount_++)];
   box.title.assign(title);
   box.text.assign(text);
-  pressed_ = openList_ = openListRow_ = scrolled_ = hovered_ = -1;
+  pressed_ = openList_ = openListRow_ = scrolled_ = hovered_ = hoveredEntry_ = -1;
 }
 
 void Desk::closeBox() {
@@ -343,16 +354,32 @@ bool Desk::boxButtonDown() const {
 
 // Tooltips.
 
-const char* Desk::tooltip(std::int64_t now) const {
-  if (!isShown(hovered_) || restsSince_ < 0 || now - restsSince_ < kTooltipDelay) return nullptr;
-  const char* text = control(hovered_).design->tooltip;
-  if (text == nullptr || openList() >= 0 || topmost(pointer_) != hovered_) return nullptr;
-  return text;
+std::string_view Desk::tooltipText() const {
+  if (!isShown(hovered_)) return {};
+  const Control& owner = control(hovered_);
+  if (owner.list == nullptr || owner.design->kind != ControlKind::fileList) return owner.tooltip;
+  // A name that is cut off in its list is shown whole.
+  if (hoveredEntry_ < 0 || hoveredEntry_ >= static_cast<int>(owner.list->items.size())) return {};
+  const std::string_view name = owner.list->items[static_cast<std::size_t>(hoveredEntry_)];
+  const Rect row = listTextPlace(tooltipOwner());
+  return font_.width(name, owner.design->font) > row.width ? name : std::string_view{};
+}
+
+Rect Desk::tooltipOwner() const {
+  const Rect place = form_->onScreen(hovered_);
+  if (hoveredEntry_ < 0) return place;
+  const ListLayout layout = listLayout(place, *control(hovered_).list);
+  return listRow(layout, hoveredEntry_);
+}
+
+std::string_view Desk::tooltip(std::int64_t now) const {
+  if (restsSince_ < 0 || now - restsSince_ < kTooltipDelay) return {};
+  if (openList() >= 0 || topmost(pointer_) != hovered_) return {};
+  return tooltipText();
 }
 
 std::int64_t Desk::tooltipDue() const {
-  if (!isShown(hovered_) || restsSince_ < 0 || control(hovered_).design->tooltip == nullptr)
-    return -1;
+  if (restsSince_ < 0 || tooltipText().empty()) return -1;
   const std::int64_t due = restsSince_ + kTooltipDelay;
   return due > now_ ? due : -1;
 }

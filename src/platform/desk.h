@@ -88,12 +88,12 @@ class Desk {
   Rect openListPlace() const;  // its open part on the screen
   int openListRow() const { return openListRow_; }  // entry under the pointer, or -1
   bool boxButtonDown() const;
-  int hovered() const { return hovered_; }  // control under the pointer, whose tooltip shows
   /// Grows with every `open`: tells a new screen from an old one at the same address.
   int opened() const { return opened_; }
-  /// The tooltip to show now, or null. `now` in milliseconds; `tooltipDue` says when to ask again
-  /// (-1 for not before the pointer moves).
-  const char* tooltip(std::int64_t now) const;
+  /// The tooltip to show now, or none, and what it belongs to on the screen. `now` in milliseconds;
+  /// `tooltipDue` says when to look again (-1 for not before the pointer moves).
+  std::string_view tooltip(std::int64_t now) const;
+  Rect tooltipOwner() const;
   std::int64_t tooltipDue() const;
   void setNow(std::int64_t now) { now_ = now; }
 
@@ -101,7 +101,10 @@ class Desk {
   Control& control(int id) { return (*form_)[id]; }
   const Control& control(int id) const { return (*form_)[id]; }
   bool isShown(int id) const;
+  void lookUnderPointer();
+  std::string_view tooltipText() const;
   int entryOfOpenList(Point screen) const;
+  int entryOfFileList(int id) const;  // the one under the pointer, or -1
   void pick(int list, int entry);
   void pressList(int id);
   void pressTextBox(int id);
@@ -123,7 +126,8 @@ class Desk {
   int scrollGrip_ = 0;  // from the top of the thumb to the pixel that is held
   std::array<MessageBox, 4> boxes_{};
   int boxCount_ = 0;
-  int hovered_ = -1;
+  int hovered_ = -1;             // control under the pointer
+  int hoveredEntry_ = -1;        // and the entry of a file list
   std::int64_t restsSince_ = 0;  // -1: no tooltip before the pointer gets to another control
   std::int64_t now_ = 0;
 };

@@ -35,6 +35,18 @@ std::string_view takeLine(std::string_view& text, int width, Font& font, FontSiz
   return whole.substr(0, at);
 }
 
+std::string_view shortened(std::string_view line, int width, Font& font, FontSize size) {
+  if (font.width(line, size) <= width) return line;
+  const int room = width - font.width(kEllipsis, size);
+  std::size_t end = 0;
+  while (end < line.size()) {
+    const std::size_t next = nextCharacter(line, end);
+    if (font.width(line.substr(0, next), size) > room) break;
+    end = next;
+  }
+  return line.substr(0, end);
+}
+
 Size measureLines(std::string_view text, int width, Font& font, FontSize size) {
   Size lines;
   while (!text.empty()) {
@@ -65,6 +77,15 @@ ListLayout listLayout(const Rect& place, const ListContent& list) {
   const int room = layout.track.height - size;
   layout.thumb = {left, layout.track.top + room * layout.top / layout.last, kScrollBarWidth, size};
   return layout;
+}
+
+Rect listRow(const ListLayout& layout, int entry) {
+  return {layout.rows.left, layout.rows.top + (entry - layout.top) * kListRowHeight,
+          layout.rows.width, kListRowHeight};
+}
+
+Rect listTextPlace(const Rect& row) {
+  return {row.left + 4, row.top, row.width - 6, row.height};
 }
 
 int listEntryAt(const ListLayout& layout, const ListContent& list, Point screen) {

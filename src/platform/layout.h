@@ -14,6 +14,11 @@ namespace platform {
 /// a line. An empty text gives no further line.
 std::string_view takeLine(std::string_view& text, int width, Font& font, FontSize size);
 
+/// What of a line stays in front of an ellipsis where the line is wider than `width`; the whole line
+/// where it fits.
+inline constexpr std::string_view kEllipsis = "\u2026";
+std::string_view shortened(std::string_view line, int width, Font& font, FontSize size);
+
 /// Lines that a text takes when it is wrapped so, and the width of the longest.
 Size measureLines(std::string_view text, int width, Font& font, FontSize size);
 
@@ -29,6 +34,10 @@ struct ListLayout {
   Rect thumb;
 };
 ListLayout listLayout(const Rect& place, const ListContent& list);
+
+/// Where an entry that is in sight lies on the screen, and where in such a row its text does.
+Rect listRow(const ListLayout& layout, int entry);
+Rect listTextPlace(const Rect& row);
 
 /// The entry of the list at a screen pixel, or -1.
 int listEntryAt(const ListLayout& layout, const ListContent& list, Point screen);

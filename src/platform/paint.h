@@ -26,8 +26,9 @@ bool coversItsBox(const Control& control);
 Rect withShadow(const Rect& place);
 void paintOpenList(const Brush& brush, const Rect& place, const Control& control, int row);
 /// Where a tooltip stands for the control at `owner`.
-Rect tooltipPlace(const Rect& owner, const char* text, Font& font);
-void paintTooltip(const Brush& brush, const Rect& place, const char* text);
+Rect tooltipPlace(const Rect& owner, std::string_view text, Font& font);
+void paintTooltipFrame(const Brush& brush, const Rect& place);
+void paintTooltip(const Brush& brush, const Rect& place, std::string_view text);
 void paintBox(const Brush& brush, const Rect& place, const MessageBox& box, bool buttonDown);
 
 /// The face of a button, with its caption.

@@ -141,6 +141,17 @@ void paintDropDown(const Brush& brush, const Control& control, const Rect& place
   brush.within(field).line(shown, text, control.design->font, control.fore, Align::left);
 }
 
+// A name that is too long for its row ends in an ellipsis.
+void paintName(const Brush& brush, const Rect& place, std::string_view name, FontSize size,
+               Color color) {
+  const std::string_view shown = shortened(name, place.width, brush.font(), size);
+  brush.line(place, shown, size, color, Align::left);
+  if (shown.size() == name.size()) return;
+  const int width = brush.font().width(shown, size);
+  brush.line({place.left + width, place.top, place.width - width, place.height}, kEllipsis, size,
+             color, Align::left);
+}
+
 void paintFileList(const Brush& brush, const Control& control, const Rect& place) {
   brush.fill(place, kWhite);
   brush.sunken(place, kFieldEdge);
@@ -148,14 +159,13 @@ void paintFileList(const Brush& brush, const Control& control, const Rect& place
   const ListLayout layout = listLayout(place, list);
   const Brush rows = brush.within(layout.rows);
   const int count = static_cast<int>(list.items.size());
-  Rect row{layout.rows.left, layout.rows.top, layout.rows.width, kListRowHeight};
-  for (int i = layout.top; i < count && row.top < layout.rows.bottom(); ++i) {
+  for (int i = layout.top; i < count; ++i) {
+    const Rect row = listRow(layout, i);
+    if (row.top >= layout.rows.bottom()) break;
     const bool chosen = i == list.selected;
     if (chosen) rows.fill(row, kChosen);
-    rows.line({row.left + 4, row.top, row.width - 4, row.height},
-              list.items[static_cast<std::size_t>(i)], control.design->font,
-              chosen ? kWhite : control.fore, Align::left);
-    row.top += kListRowHeight;
+    paintName(rows, listTextPlace(row), list.items[static_cast<std::size_t>(i)],
+              control.design->font, chosen ? kWhite : control.fore);
   }
   if (!layout.bar) return;
   brush.fill(layout.track, mix(kFace, kWhite, 45));

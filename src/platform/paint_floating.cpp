@@ -14,6 +14,8 @@ constexpr Color kTitleBottom{62, 92, 176};
 constexpr Color kUnderPointer{206, 218, 246};
 constexpr Color kNote{255, 253, 226};
 constexpr FontSize kNoteFont = FontSize::pt9;
+constexpr int kNoteWidth = 300;  // at which its text is wrapped
+constexpr int kNoteMargin = 6;
 
 void paintShadow(const Brush& brush, const Rect& place) {
   brush.darken({place.right(), place.top + kShadow, kShadow, place.height});
@@ -47,19 +49,29 @@ void paintOpenList(const Brush& brush, const Rect& place, const Control& control
   }
 }
 
-Rect tooltipPlace(const Rect& owner, const char* text, Font& font) {
-  const int width = font.width(text, kNoteFont) + 12;
-  const int height = lineHeight(kNoteFont) + 6;
+Rect tooltipPlace(const Rect& owner, std::string_view text, Font& font) {
+  const Size lines = measureLines(text, kNoteWidth, font, kNoteFont);
+  const int width = lines.width + 2 * kNoteMargin;
+  const int height = lines.height * lineHeight(kNoteFont) + kNoteMargin;
   const int below = owner.bottom() + 4;
   return {std::clamp(owner.left, 0, std::max(0, 800 - kShadow - width)),
           below + height + kShadow <= 600 ? below : owner.top - height - 4, width, height};
 }
 
-void paintTooltip(const Brush& brush, const Rect& place, const char* text) {
+void paintTooltipFrame(const Brush& brush, const Rect& place) {
   paintShadow(brush, place);
   brush.fill(place, kNote);
   brush.outline(place, mix(kNote, kInk, 60));
-  brush.line(place, text, kNoteFont, kInk, Align::centre);
+}
+
+void paintTooltip(const Brush& brush, const Rect& place, std::string_view text) {
+  paintTooltipFrame(brush, place);
+  const int step = lineHeight(kNoteFont);
+  for (int y = place.top + kNoteMargin / 2; !text.empty(); y += step) {
+    const std::string_view line = takeLine(text, kNoteWidth, brush.font(), kNoteFont);
+    brush.line({place.left + kNoteMargin, y, place.width, step}, line, kNoteFont, kInk,
+               Align::left);
+  }
 }
 
 void paintBox(const Brush& brush, const Rect& place, const MessageBox& box, bool buttonDown) {

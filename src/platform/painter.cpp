@@ -217,10 +217,10 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
             lookOfOpenList((*form)[held.open], desk.openListRow())};
   }
   Floating tooltip;
-  const char* tip = desk.tooltip(now);
+  const std::string_view tip = desk.tooltip(now);
   Rect tipPlace;
-  if (tip != nullptr) {
-    tipPlace = tooltipPlace(form->onScreen(desk.hovered()), tip, font_);
+  if (!tip.empty()) {
+    tipPlace = tooltipPlace(desk.tooltipOwner(), tip, font_);
     tooltip = {withShadow(tipPlace), Look().with(tip).value()};
   }
   Floating box;
@@ -258,7 +258,7 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
       if (held.open >= 0) {
         paintOpenList(brush, desk.openListPlace(), (*form)[held.open], desk.openListRow());
       }
-      if (tip != nullptr) paintTooltip(brush, tipPlace, tip);
+      if (!tip.empty()) paintTooltip(brush, tipPlace, tip);
     }
     if (const MessageBox* shown = desk.box()) {
       paintBox(brush, boxPlace, *shown, desk.boxButtonDown());

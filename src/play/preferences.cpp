@@ -8,10 +8,6 @@ namespace play {
 
 namespace {
 
-constexpr int kFast = 16;
-constexpr int kNormal = 25;
-constexpr int kSlow = 34;
-
 void writeSwitch(Scene& scene, int control, bool on) {
   scene.text(control).assign(on ? "On" : "Off");
 }

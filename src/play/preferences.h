@@ -5,6 +5,11 @@
 
 namespace play {
 
+// The speeds, by the length of their months in ticks of the clock, which are seconds.
+inline constexpr int kFast = 16;
+inline constexpr int kNormal = 25;
+inline constexpr int kSlow = 34;
+
 void openPreferences(Scene& scene);
 /// One step faster, or slower; it takes effect at the next month.
 void speedUp(Scene& scene);

@@ -1,5 +1,6 @@
 #include "shell/game_screen.h"
 
+#include "play/tooltips.h"
 #include "shell/opening.h"
 #include "shell/program.h"
 
@@ -13,6 +14,7 @@ GameScreen::GameScreen(Program& program)
       stage_{*game_, program.values(), program.services().assets.pictures, program.canvas()},
       scene_{*game_, program.values(), form(),           timers(),
              stage_, program.desk(),   program.speaker()} {
+  play::writeTooltips(form());
   form()[play::ui::picScroll].canvas = &stage_.canvas;
   stage_.canvas.clear();
   platform::ListContent& music = *form()[play::ui::Combo1].list;

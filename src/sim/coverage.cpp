@@ -22,7 +22,7 @@ constexpr int kFirstCoveredCell = -5;
 constexpr int kLastCoveredCell = 35;
 constexpr int kLastHousingCell = 31;
 
-// How far a building cell of service 1..5 reaches, in cells each way.
+// How far a cell of a building reaches, by service 1..5.
 constexpr std::array<int, kServices> kReach{5, 6, 4, 5, 4};
 
 // The cells of one grid, a bit for each: bit x - kLowX of entry y - kLowY.
@@ -50,6 +50,10 @@ Cells squaresAround(const Cells& cells, int reach) {
 
 }  // namespace
 
+int reachOf(int service) {
+  return kReach[static_cast<std::size_t>(service - 1)];
+}
+
 void rebuildCoverage(GameState& game) {
   for (int k = 1; k <= kServices; ++k) {
     core::coverGrid(game, k).fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
@@ -71,7 +75,7 @@ void rebuildCoverage(GameState& game) {
   }
   for (int k = 1; k <= kServices; ++k) {
     const auto service = static_cast<std::size_t>(k - 1);
-    const Cells covered = squaresAround(sources[service], kReach[service]);
+    const Cells covered = squaresAround(sources[service], reachOf(k));
     CellGrid<Flag>& cover = core::coverGrid(game, k);
     for (int y = kLow; y <= kHigh; ++y) {
       std::uint64_t line = covered[static_cast<std::size_t>(y - kLow)];

@@ -11,6 +11,9 @@
 
 namespace sim {
 
+/// How far a cell of a building of service 1..5 reaches, in cells each way.
+int reachOf(int service);
+
 /// Lays the effect areas anew; zeroes cellCapacity, cellServices and housingCapacity.
 void rebuildCoverage(core::GameState& game);
 

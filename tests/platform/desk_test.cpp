@@ -161,16 +161,41 @@ TEST_F(DeskRules, ATooltipComesAfterARestAndGoesWithThePointerOrAPress) {
   moveAt(1000, at(kName, 5, 5));
   moveAt(1500, at(kName, 6, 5));
   EXPECT_EQ(desk_.tooltipDue(), 2100);
-  EXPECT_EQ(desk_.tooltip(2099), nullptr);
-  EXPECT_STREQ(desk_.tooltip(2100), "Opens the menu");
+  EXPECT_EQ(desk_.tooltip(2099), "");
+  EXPECT_EQ(desk_.tooltip(2100), "Opens the menu");
   moveAt(2200, at(kName, 7, 5));
-  EXPECT_NE(desk_.tooltip(2200), nullptr) << "stays while the pointer does";
+  EXPECT_NE(desk_.tooltip(2200), "") << "stays while the pointer does";
   click(at(kName, 7, 5));
-  EXPECT_EQ(desk_.tooltip(9000), nullptr);
+  EXPECT_EQ(desk_.tooltip(9000), "");
   moveAt(3000, {5, 5});
   moveAt(3000, at(kName, 5, 5));
   form_.show(kHidden);
-  EXPECT_EQ(desk_.tooltip(9000), nullptr) << "covered meanwhile";
+  EXPECT_EQ(desk_.tooltip(9000), "") << "covered meanwhile";
+}
+
+TEST_F(DeskRules, ANameThatIsCutOffInItsListIsShownWholeInATooltip) {
+  const std::string longName(40, 'W');
+  std::vector<std::string>& names = form_[kFiles].list->items;
+  names[1] = names[4] = longName;
+  desk_.setNow(1000);
+  desk_.pointerMoved(at(kFiles, 9, 9));
+  EXPECT_EQ(desk_.tooltip(5000), "");
+  desk_.pointerMoved(at(kFiles, 9, 9 + kListRowHeight));
+  EXPECT_EQ(desk_.tooltip(1599), "");
+  EXPECT_EQ(desk_.tooltip(1600), longName);
+  EXPECT_EQ(desk_.tooltipOwner().top, form_.onScreen(kFiles).top + 2 + kListRowHeight);
+  desk_.setNow(2000);
+  desk_.wheel(-1);
+  EXPECT_EQ(desk_.tooltip(2599), "") << "another name has come under the pointer";
+  EXPECT_EQ(desk_.tooltip(2600), longName);
+  names.clear();
+  EXPECT_EQ(desk_.tooltip(2600), "");
+
+  const std::string_view shown = shortened(longName, 100, testFont(), FontSize::pt9);
+  const auto width = [](std::string_view text) { return testFont().width(text, FontSize::pt9); };
+  EXPECT_LE(width(shown) + width(kEllipsis), 100);
+  EXPECT_GT(width(shown) + width(kEllipsis), 100 - width("W"));
+  EXPECT_EQ(shortened("a b", 100, testFont(), FontSize::pt9), "a b");
 }
 
 }  // namespace

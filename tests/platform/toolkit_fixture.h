@@ -36,7 +36,7 @@ inline constexpr ControlDesign kTestTable[] = {
     {"tag", kSingle, Kind::label, kMap, {300, 500, 80, 20}, "Tag", FontSize::pt12, Align::centre},
     {.name = "back", .kind = Kind::box, .place = {10, 10, 300, 300}, .back = kRed, .opaque = true},
     {.name = "plate", .kind = Kind::image, .place = {640, 20, 120, 40}, .image = "plate"},
-    {.name = "name", .place = {650, 30, 100, 20}, .text = "MENU", .tooltip = "Opens the menu"},
+    {.name = "name", .place = {650, 30, 100, 20}, .text = "MENU"},
     frame("panel", {20, 20, 260, 200}, FontSize::pt14, Heading::title),
     {.name = "panelBox", .kind = Kind::box, .parent = kPanel, .place = {4, 30, 250, 150}},
     {.name = "combo", .kind = Kind::dropDown, .parent = kPanel, .place = {20, 40, 100, 27}},
@@ -62,6 +62,7 @@ class Toolkit : public testing::Test, protected FormListener {
     plate_.clear({140, 179, 242});
     canvas_.surface().clear({90, 140, 70});
     form_[kMap].canvas = &canvas_;
+    form_[kName].tooltip = "Opens the menu";
     form_[kLine0].from = {400, 300}, form_[kLine0].to = {430, 315};
     form_[kLine1].from = {400, 300}, form_[kLine1].to = {395, 360};
     for (int i = 0; i < 7; ++i) form_[kCombo].list->items.push_back("Track " + std::to_string(i));

@@ -61,7 +61,9 @@ TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
     const double gold = play.state().gold;
     const double id = play.state().nextBuildingId;
     play.run(press);
-    EXPECT_EQ(play.text(ui::buildprice), "Price:" + number(gold - play.state().gold));
+    const std::string price = number(gold - play.state().gold);
+    EXPECT_EQ(play.text(ui::buildprice), "Price:" + price);
+    std::string tip = play.text(ui::Command1 + site.button) + ": " + price + " gold";
     int cells = 0;
     for (int y = 0; y <= 30; ++y) {
       for (int x = 0; x <= 30; ++x) cells += play.state().buildingId(x, y) == id;
@@ -70,8 +72,9 @@ TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
 
     const double upkeep = play.state().maintenancePerMonth;
     play.run("advance 1000\nclick inform\n" + press);
-    EXPECT_EQ(play.text(ui::mailbl),
-              "Maintenance:" + number(play.state().maintenancePerMonth - upkeep));
+    const std::string added = number(play.state().maintenancePerMonth - upkeep);
+    EXPECT_EQ(play.text(ui::mailbl), "Maintenance:" + added);
+    tip += added == "0" ? ", no upkeep" : "\nUpkeep " + added + " gold a month";
     if (site.button == 0) {
       EXPECT_EQ(name + play.text(ui::namlbl), "Current:HouseTENT");
     } else {
@@ -79,6 +82,8 @@ TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
     }
     const std::string area = play.text(ui::buildsize).substr(std::string("Effect area:").size());
     const int k = core::serviceOfCode(play.state().tileCode(site.x, site.y));
+    if (k != 0) tip += "\nReaches " + area.substr(0, 1) + " cells each way";
+    EXPECT_EQ(play.form()[ui::Command1 + site.button].tooltip, tip);
     if (k == 0) {
       EXPECT_EQ(area, "-");
       continue;
@@ -113,6 +118,36 @@ TEST(Panels, TheKeyOfTheToolInHandIsHeldDown) {
   play.run("click gmmenu\nclick savegame\nclick txtsavename\ntype town\nclick cmdsave");
   play.run("click gmmenu\nclick ldgame\nchoose File1 town.sav\nclick cmdload\nadvance 500");
   EXPECT_TRUE(held.empty()) << "a loaded game opens in the info mode";
+}
+
+TEST(Panels, WhatIsALetterOrAWordOnlyHasATooltip) {
+  OpenGame play;
+  const platform::Form& form = play.form();
+  constexpr int kControls[] = {ui::pop1,   ui::tarih,       ui::Statusreport,
+                               ui::stpop,  ui::showtaxrate, ui::Command1 + 8,
+                               ui::tavrat, ui::gamespeed,   ui::inform};
+  for (const int control : kControls) {
+    EXPECT_FALSE(form[control].tooltip.empty()) << form[control].design->name;
+  }
+  for (int view = 0; view < 6; ++view) {
+    play.run("click seer " + number(view));
+    EXPECT_EQ(form[ui::seer + view].tooltip, play.text(ui::currentview));
+  }
+  const auto secondsOfMonth = [&play] {
+    play.endMonth();
+    const double month = play.state().month;
+    int seconds = 0;
+    for (; play.state().month == month; ++seconds) play.run("advance 1000");
+    return number(seconds);
+  };
+  play.run("click Command5");
+  const std::string normal = secondsOfMonth();
+  play.run("click gamespeedplus");
+  const std::string fast = secondsOfMonth();
+  play.run("click gamespeedminus\nclick gamespeedminus");
+  EXPECT_EQ(form[ui::gamespeed].tooltip, "A month lasts " + normal + " seconds; fast " + fast +
+                                             ", slow " + secondsOfMonth() +
+                                             ".\nA new speed counts from the next month on.");
 }
 
 }  // namespace
