@@ -1,6 +1,7 @@
 #include "platform/desk.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "platform/layout.h"
 #include "platform/utf8.h"
@@ -15,7 +16,9 @@ void Desk::open(Form* form, FormListener* listener) {
   listener_ = listener;
   ++opened_;
   pressed_ = focus_ = openList_ = openListRow_ = scrolled_ = hovered_ = hoveredEntry_ = -1;
-  caret_ = 0;
+  selection_ = {};
+  textShift_ = 0;
+  lastPress_ = {};
 }
 
 bool Desk::isShown(int id) const {
@@ -38,6 +41,9 @@ void Desk::pointerMoved(Point screen) {
     dragScrollBar();
     return;
   }
+  if (pressed_ >= 0 && pressed_ == focus() && !doublePressed_) {
+    select({caretUnderPointer(pressed_), selection().anchor});
+  }
   lookUnderPointer();
   openListRow_ = entryOfOpenList(screen);
   const int id = hovered_;
@@ -55,9 +61,20 @@ void Desk::lookUnderPointer() {
   if (another || (restsSince_ >= 0 && now_ - restsSince_ < kTooltipDelay)) restsSince_ = now_;
 }
 
-void Desk::buttonDown() {
+bool Desk::isSecondPress(int id) {
+  const int entry = entryOfFileList(id);
+  const Point off{pointer_.x - lastPress_.at.x, pointer_.y - lastPress_.at.y};
+  const bool second = id == lastPress_.id && entry == lastPress_.entry &&
+                      now_ - lastPress_.time <= kDoubleClick && std::abs(off.x) <= 4 &&
+                      std::abs(off.y) <= 4;
+  lastPress_ = {second ? -1 : id, entry, pointer_, now_};
+  return second;
+}
+
+void Desk::buttonDown(Modifiers held) {
   restsSince_ = -1;
   pressed_ = -1;
+  doublePressed_ = false;
   if (boxCount_ > 0) {
     boxPressed_ = boxButton(boxPlace(boxes_[0], font_)).contains(pointer_);
     return;
@@ -71,12 +88,14 @@ void Desk::buttonDown() {
   const int id = topmost(pointer_);
   if (id < 0) return;
   pressed_ = id;
+  doublePressed_ = isSecondPress(id);
   switch (control(id).design->kind) {
     case ControlKind::textBox:
-      pressTextBox(id);
+      pressTextBox(id, held, doublePressed_);
       break;
     case ControlKind::fileList:
       focus_ = -1;
+      doublePressed_ = doublePressed_ && entryOfFileList(id) >= 0;
       pressList(id);
       break;
     case ControlKind::dropDown:
@@ -114,7 +133,9 @@ void Desk::buttonUp() {
     return;
   }
   if (control(id).design->kind == ControlKind::checkBox) control(id).checked = !control(id).checked;
-  if (listener_ != nullptr) listener_->onClick(id);
+  if (listener_ == nullptr) return;
+  const bool twice = doublePressed_ && control(id).design->kind == ControlKind::fileList;
+  twice ? listener_->onDoubleClick(id) : listener_->onClick(id);
 }
 
 void Desk::wheel(int steps) {
@@ -218,22 +239,35 @@ int Desk::focus() const {
   return isShown(focus_) ? focus_ : -1;
 }
 
-std::size_t Desk::caret() const {
-  if (focus() < 0) return 0;
+Selection Desk::selection() const {
   // The screen may have written another text into the box meanwhile.
-  const std::string_view text = control(focus_).text.view();
-  std::size_t at = std::min(caret_, text.size());
-  while (at > 0 && at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80) --at;
-  return at;
+  return focus() < 0 ? Selection{} : within(control(focus_).text, selection_);
 }
 
-void Desk::pressTextBox(int id) {
-  const std::size_t before = focus_ == id ? caret() : 0;
+int Desk::textShift() const {
+  if (focus() < 0) return 0;
+  const Control& box = control(focus_);
+  return textBoxShift(box.text, selection().caret, textBoxInside(box.place).width, font_,
+                      box.design->font, textShift_);
+}
+
+void Desk::select(Selection selection) {
+  selection_ = selection;
+  textShift_ = textShift();
+}
+
+void Desk::focusOn(int id, Caret caret) {
+  focus_ = id;
+  textShift_ = 0;
+  const std::size_t end = control(id).text.view().size();
+  select({end, caret == Caret::overAll ? 0 : end});
+}
+
+std::size_t Desk::caretUnderPointer(int id) const {
   const Control& box = control(id);
   const FontSize size = box.design->font;
   const std::string_view text = box.text.view();
-  const Rect inside = textBoxInside(form_->onScreen(id));
-  int x = inside.left - textBoxShift(text, before, inside.width, font_, size);
+  int x = textBoxInside(form_->onScreen(id)).left - (focus_ == id ? textShift() : 0);
   std::size_t at = 0;
   while (at < text.size()) {
     const std::size_t next = nextCharacter(text, at);
@@ -242,35 +276,33 @@ void Desk::pressTextBox(int id) {
     x += width;
     at = next;
   }
-  focus_ = id;
-  caret_ = at;
+  return at;
 }
 
-void Desk::insert(std::string_view added) {
-  Text& text = control(focus_).text;
-  const std::size_t at = caret();
-  Text result(text.view().substr(0, at));
-  std::size_t room = Text::kCapacity - text.view().size();
-  while (!added.empty()) {
-    const std::string_view before = added;
-    const char32_t code = takeCharacter(added);
-    const std::string_view character = before.substr(0, before.size() - added.size());
-    const bool damaged = code == kReplacement && character.size() == 1;
-    if (code < 0x20 || code == 0x7F || damaged) continue;
-    if (character.size() > room) break;
-    room -= character.size();
-    result.append(character);
+void Desk::pressTextBox(int id, Modifiers held, bool second) {
+  const std::size_t at = caretUnderPointer(id);
+  if (focus_ != id) {
+    focus_ = id;
+    textShift_ = 0;
+    selection_ = {at, at};
   }
-  caret_ = result.view().size();
-  result.append(text.view().substr(at));
-  text = result;
+  if (second) {
+    select(wordAt(control(id).text, at));
+  } else {
+    select({at, held.shift ? selection().anchor : at});
+  }
 }
 
 void Desk::type(std::string_view text) {
-  if (boxCount_ == 0 && focus() >= 0) insert(text);
+  lastPress_ = {};
+  if (boxCount_ > 0 || focus() < 0) return;
+  Selection at = selection();
+  insert(control(focus_).text, at, text);
+  select(at);
 }
 
-void Desk::key(Key key) {
+void Desk::key(Key key, Modifiers held) {
+  lastPress_ = {};
   if (boxCount_ > 0) {
     if (key == Key::enter || key == Key::escape) closeBox();
     return;
@@ -282,39 +314,20 @@ void Desk::key(Key key) {
     if (key == Key::enter && entry >= 0) pick(list, entry);
     return;
   }
+  if (key == Key::enter || key == Key::escape) {
+    if (listener_ != nullptr) listener_->onKey(key);
+    return;
+  }
   if (focus() < 0) return;
   Text& text = control(focus_).text;
-  const auto removeBetween = [&text](std::size_t from, std::size_t to) {
-    Text result(text.view().substr(0, from));
-    result.append(text.view().substr(to));
-    text = result;
-  };
-  const std::size_t at = caret();
-  caret_ = at;
-  switch (key) {
-    case Key::left:
-      caret_ = previousCharacter(text, at);
-      break;
-    case Key::right:
-      caret_ = nextCharacter(text, at);
-      break;
-    case Key::home:
-      caret_ = 0;
-      break;
-    case Key::end:
-      caret_ = text.view().size();
-      break;
-    case Key::backspace:
-      caret_ = previousCharacter(text, at);
-      removeBetween(caret_, at);
-      break;
-    case Key::deleteForward:
-      removeBetween(at, nextCharacter(text, at));
-      break;
-    case Key::enter:
-    case Key::escape:
-      break;
+  Selection at = selection();
+  if (key == Key::paste) return type(clipboard_.text());
+  if ((key == Key::copy || key == Key::cut) && !at.empty()) {
+    clipboard_.setText(std::string(at.of(text)));
+    if (key == Key::cut) edit(text, at, Key::backspace, {});
   }
+  edit(text, at, key, held);
+  select(at);
 }
 
 // Message boxes.

@@ -11,7 +11,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/clipboard.h"
 #include "platform/form.h"
+#include "platform/text_edit.h"
 
 namespace platform {
 
@@ -24,13 +26,15 @@ class FormListener {
   virtual void onMouseMove(int id, int x, int y) = 0;
   /// The button went down on a control.
   virtual void onMouseDown(int id, int x, int y) = 0;
+  /// A name of a file list was pressed twice, and is selected.
+  virtual void onDoubleClick(int) {}
+  /// Enter or Escape, whether a text box has the focus or not.
+  virtual void onKey(Key) {}
   /// A control was pressed and released. A check box has changed its mark already.
   virtual void onClick(int id) = 0;
   /// An entry of a drop-down list was picked, also the one that was shown already.
   virtual void onChoose(int id) = 0;
 };
-
-enum class Key : std::uint8_t { backspace, enter, escape, left, right, home, end, deleteForward };
 
 struct MessageBox {
   Text title;
@@ -43,19 +47,21 @@ class Desk {
   static Rect boxPlace(const MessageBox& box, Font& font);
   static Rect boxButton(const Rect& boxPlace);
 
-  explicit Desk(Font& font) : font_(font) {}
+  /// Without a clipboard the desk keeps to itself what is copied.
+  explicit Desk(Font& font, Clipboard* clipboard = nullptr)
+      : font_(font), clipboard_(clipboard != nullptr ? *clipboard : ownClipboard_) {}
 
   /// The screen that gets the events from now on; nothing of the old one is kept. Both may be null.
   void open(Form* form, FormListener* listener);
   Form* form() { return form_; }
 
   void pointerMoved(Point screen);
-  void buttonDown();
+  void buttonDown(Modifiers held = {});
   void buttonUp();
   /// The same at a point. The pointer moves there first, unless it is there already.
-  void buttonDown(Point at) {
+  void buttonDown(Point at, Modifiers held = {}) {
     if (!(pointer_ == at)) pointerMoved(at);
-    buttonDown();
+    buttonDown(held);
   }
   void buttonUp(Point at) {
     if (!(pointer_ == at)) pointerMoved(at);
@@ -65,7 +71,10 @@ class Desk {
   void wheel(int steps);
   /// Text for the text box that has the focus, UTF-8.
   void type(std::string_view text);
-  void key(Key key);
+  void key(Key key, Modifiers held = {});
+  /// Gives a text box the focus, its caret at the end or all of its text selected.
+  enum class Caret { atEnd, overAll };
+  void focusOn(int id, Caret caret);
   Point pointer() const { return pointer_; }
 
   /// Puts a message box on the screen. Boxes queue: the next shows when the first is closed.
@@ -81,11 +90,12 @@ class Desk {
   bool choose(int id, std::string_view entry);
 
   // For the painter.
-  int pressed() const;         // control that is held down by the pointer upon it, or -1
-  int focus() const;           // text box that is typed into, or -1
-  std::size_t caret() const;   // byte position of the caret in it
-  int openList() const;        // drop-down list that is open, or -1
-  Rect openListPlace() const;  // its open part on the screen
+  int pressed() const;          // control that is held down by the pointer upon it, or -1
+  int focus() const;            // text box that is typed into, or -1
+  Selection selection() const;  // in it
+  int textShift() const;        // pixels by which its text is pushed to the left
+  int openList() const;         // drop-down list that is open, or -1
+  Rect openListPlace() const;   // its open part on the screen
   int openListRow() const { return openListRow_; }  // entry under the pointer, or -1
   bool boxButtonDown() const;
   /// Grows with every `open`: tells a new screen from an old one at the same address.
@@ -107,21 +117,33 @@ class Desk {
   int entryOfFileList(int id) const;  // the one under the pointer, or -1
   void pick(int list, int entry);
   void pressList(int id);
-  void pressTextBox(int id);
+  bool isSecondPress(int id);
+  void pressTextBox(int id, Modifiers held, bool second);
+  std::size_t caretUnderPointer(int id) const;
+  void select(Selection selection);
   void dragScrollBar();
-  void insert(std::string_view text);
 
   Font& font_;
+  Clipboard ownClipboard_;
+  Clipboard& clipboard_;
   Form* form_ = nullptr;
   FormListener* listener_ = nullptr;
   int opened_ = 0;
   Point pointer_{600, 300};
   int pressed_ = -1;
   int focus_ = -1;
-  std::size_t caret_ = 0;
+  Selection selection_;
+  int textShift_ = 0;
   int openList_ = -1;
   int openListRow_ = -1;
   bool boxPressed_ = false;
+  struct {
+    int id = -1;
+    int entry = -1;
+    Point at{};
+    std::int64_t time = 0;
+  } lastPress_;
+  bool doublePressed_ = false;
   int scrolled_ = -1;   // file list whose thumb is held, or -1
   int scrollGrip_ = 0;  // from the top of the thumb to the pixel that is held
   std::array<MessageBox, 4> boxes_{};
@@ -134,6 +156,9 @@ class Desk {
 
 /// Milliseconds the pointer rests over a control before its tooltip shows.
 inline constexpr int kTooltipDelay = 600;
+
+/// Milliseconds within which a second press at the same place makes a double-click.
+inline constexpr int kDoubleClick = 400;
 
 /// Height of one entry of a drop-down or file list, and width of a scroll bar, in pixels.
 inline constexpr int kListRowHeight = 18;

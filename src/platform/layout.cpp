@@ -98,8 +98,12 @@ Rect textBoxInside(const Rect& place) {
   return {place.left + 4, place.top + 2, std::max(0, place.width - 8), place.height - 4};
 }
 
-int textBoxShift(std::string_view text, std::size_t caret, int width, Font& font, FontSize size) {
-  return std::max(0, font.width(text.substr(0, caret), size) + 1 - width);
+int textBoxShift(std::string_view text, std::size_t caret, int width, Font& font, FontSize size,
+                 int before) {
+  const int at = font.width(text.substr(0, caret), size);
+  width = std::max(width, 1);
+  const int most = std::max(0, font.width(text, size) + 1 - width);
+  return std::clamp(std::clamp(before, at + 1 - width, at), 0, most);
 }
 
 }  // namespace platform

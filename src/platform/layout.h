@@ -44,8 +44,10 @@ int listEntryAt(const ListLayout& layout, const ListContent& list, Point screen)
 
 /// The inside of a text box with `place` on the screen: where its text is shown.
 Rect textBoxInside(const Rect& place);
-/// By how many pixels the text of a text box is pushed to the left so that its caret is in sight.
-int textBoxShift(std::string_view text, std::size_t caret, int width, Font& font, FontSize size);
+/// By how many pixels the text of a text box is pushed to the left so that its caret is in sight: as
+/// near to what it was `before` as can be, with no room lost behind the text.
+int textBoxShift(std::string_view text, std::size_t caret, int width, Font& font, FontSize size,
+                 int before);
 
 /// A message box: height of its title bar, margin around its text, width at which the text is
 /// wrapped.

@@ -11,7 +11,8 @@ struct ControlState {
   bool pressed = false;
   bool open = false;     // a drop-down list whose entries show
   bool focused = false;  // a text box that is typed into
-  std::size_t caret = 0;
+  Selection selection;   // in it
+  int textShift = 0;
   friend bool operator==(const ControlState&, const ControlState&) = default;
 };
 

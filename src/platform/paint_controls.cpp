@@ -183,15 +183,25 @@ void paintTextBox(const Brush& brush, const Control& control, const Rect& place,
   brush.sunken(place, kFieldEdge);
   const FontSize size = control.design->font;
   const Rect inside = textBoxInside(place);
-  const std::size_t caret = state.focused ? state.caret : 0;
-  const int shift = textBoxShift(control.text, caret, inside.width, brush.font(), size);
   const Brush within = brush.within(inside);
-  within.line(moved(inside, -shift, 0), control.text, size, control.fore, Align::left);
+  const Rect line = moved(inside, -state.textShift, 0);
+  within.line(line, control.text, size, control.fore, Align::left);
   if (!state.focused) return;
-  const int x =
-      inside.left - shift + brush.font().width(control.text.view().substr(0, caret), size);
   const int height = std::min(inside.height, lineHeight(size));
-  within.fill({x, inside.top + (inside.height - height) / 2, 1, height}, kInk);
+  const auto upTo = [&](std::size_t at) {
+    const int width = brush.font().width(control.text.view().substr(0, at), size);
+    return Rect{line.left, inside.top + (inside.height - height) / 2, width, height};
+  };
+  const Selection& selection = state.selection;
+  if (!selection.empty()) {
+    Rect chosen = upTo(selection.to());
+    chosen.left = upTo(selection.from()).right();
+    chosen.width -= chosen.left - line.left;
+    within.fill(chosen, kChosen);
+    within.within(chosen).line(line, control.text, size, kWhite, Align::left);
+  }
+  const Rect caret = upTo(selection.caret);
+  within.fill({caret.right(), caret.top, 1, height}, kInk);
 }
 
 }  // namespace

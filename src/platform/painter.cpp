@@ -87,12 +87,19 @@ struct Painter::Held {
   int pressed = -1;
   int open = -1;
   int focus = -1;
-  std::size_t caret = 0;
+  Selection selection;
+  int textShift = 0;
 
   explicit Held(const Desk& desk)
-      : pressed(desk.pressed()), open(desk.openList()), focus(desk.focus()), caret(desk.caret()) {}
+      : pressed(desk.pressed()),
+        open(desk.openList()),
+        focus(desk.focus()),
+        selection(desk.selection()),
+        textShift(desk.textShift()) {}
   ControlState of(int id) const {
-    return {id == pressed, id == open, id == focus, id == focus ? caret : 0};
+    const bool focused = id == focus;
+    return {id == pressed, id == open, focused, focused ? selection : Selection{},
+            focused ? textShift : 0};
   }
 };
 

@@ -120,6 +120,15 @@ constexpr ClickArray kClickArrays[] = {
     {ui::Command1, 9, play::selectTool},
 };
 
+/// The two panels that have a name in hand: Enter and Escape press the keys of the one in front.
+struct KeyRow {
+  int panel;
+  Handler enter;
+  Handler escape;
+};
+constexpr KeyRow kKeys[] = {{ui::framesave, clickSave, clickCancelSave},
+                            {ui::frameload, clickLoad, clickCancelLoad}};
+
 // In the order of the timer table.
 constexpr std::array<Handler, core::game_timer::kTimers.size()> kTicks{
     captionTick,                 // Timer1
@@ -174,6 +183,20 @@ void GameScreen::onClick(int id) {
   for (const ClickArray& row : kClickArrays) {
     if (id >= row.first && id < row.first + row.count) return row.handler(scene_, id - row.first);
   }
+}
+
+void GameScreen::onDoubleClick(int id) {
+  if (id == ui::File1) clickLoad(*this);
+}
+
+void GameScreen::onKey(platform::Key key) {
+  const KeyRow* front = nullptr;
+  for (const KeyRow& row : kKeys) {
+    if (!form().shown(row.panel)) continue;
+    if (front == nullptr || form()[row.panel].rank > form()[front->panel].rank) front = &row;
+  }
+  if (front == nullptr) return;
+  key == platform::Key::enter ? front->enter(*this) : front->escape(*this);
 }
 
 void GameScreen::onChoose(int id) {

@@ -32,6 +32,8 @@ class GameScreen : public Screen {
   void onMouseDown(int id, int x, int y) override;
   void onClick(int id) override;
   void onChoose(int id) override;
+  void onDoubleClick(int id) override;
+  void onKey(platform::Key key) override;
   core::GameState* game() override { return game_.get(); }
   platform::Canvas* canvas() override { return &stage_.canvas; }
 

@@ -4,6 +4,7 @@
 
 #include "platform/files.h"
 #include "platform/program_folder.h"
+#include "platform/sdl/sdl_clipboard.h"
 #include "platform/sdl/sdl_clock.h"
 #include "platform/sdl/sdl_display.h"
 #include "platform/sdl/sdl_events.h"
@@ -26,7 +27,7 @@ void deliver(const platform::Event& event, shell::Program& program) {
       desk.pointerMoved(event.point);
       break;
     case Kind::down:
-      desk.buttonDown(event.point);
+      desk.buttonDown(event.point, event.held);
       break;
     case Kind::up:
       desk.buttonUp(event.point);
@@ -38,7 +39,7 @@ void deliver(const platform::Event& event, shell::Program& program) {
       desk.type(event.text.data());
       break;
     case Kind::key:
-      desk.key(event.key);
+      desk.key(event.key, event.held);
       break;
     case Kind::redraw:
       program.painter().forget();
@@ -82,7 +83,9 @@ int main() {
   platform::SdlEvents events(display);
   platform::Random random(&clock, clock.ticks());
   platform::Random walkerRandom(&clock, clock.ticks());
-  shell::Services services{clock, random, walkerRandom, media, display, assets, folder, {}};
+  platform::SdlClipboard clipboard;
+  shell::Services services{clock,  random, walkerRandom, media,     display,
+                           assets, folder, {},           &clipboard};
   shell::Program program(services);
   services.letEventsIn = [&] { takeEvents(events, program, 0); };
 

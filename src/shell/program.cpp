@@ -13,7 +13,7 @@ Program::Program(Services& services)
     : services_(services),
       speaker_(services.media, services.programFolder),
       progress_(services.programFolder),
-      desk_(*services.assets.font),
+      desk_(*services.assets.font, services.clipboard),
       painter_(*services.assets.font),
       framebuffer_(platform::kScreenWidth, platform::kScreenHeight, services.assets.scale()) {}
 

@@ -1,5 +1,7 @@
 #include "shell/saved_games.h"
 
+#include <algorithm>
+
 #include "core/goals.h"
 #include "core/new_game.h"
 #include "core/number_text.h"
@@ -7,6 +9,7 @@
 #include "map/road_shapes.h"
 #include "map/views.h"
 #include "platform/files.h"
+#include "platform/natural_order.h"
 #include "play/palette.h"
 #include "play/panels.h"
 #include "play/preferences.h"
@@ -31,6 +34,12 @@ void showFilePanel(Scene& scene, int panel) {
   scene.form.show(panel);
 }
 
+/// The panel stays, and the name can be mended at once.
+void refuseToSave(Scene& scene, std::string_view why) {
+  scene.desk.showBox(kSaveError, why);
+  scene.desk.focusOn(ui::txtsavename, platform::Desk::Caret::atEnd);
+}
+
 const std::string* selectedName(const platform::Control& control) {
   const platform::ListContent& list = *control.list;
   if (list.selected < 0 || list.selected >= static_cast<int>(list.items.size())) return nullptr;
@@ -42,6 +51,13 @@ const std::string* selectedName(const platform::Control& control) {
 void refreshFileList(GameScreen& screen, int list) {
   platform::ListContent& content = *screen.form()[list].list;
   content.items = platform::listFiles(screen.folder(), kEnding);
+  const auto name = [](std::string_view file) {
+    return file.substr(0, file.size() - std::string_view(kEnding).size());
+  };
+  std::sort(content.items.begin(), content.items.end(),
+            [&name](const std::string& a, const std::string& b) {
+              return platform::comesBefore(name(a), name(b));
+            });
   content.selected = -1;
   content.top = 0;
 }
@@ -70,6 +86,7 @@ void clickSaveGame(GameScreen& screen) {
   scene.form.hide(ui::gamemenu);
   refreshFileList(screen, ui::File2);
   showFilePanel(scene, ui::framesave);
+  scene.desk.focusOn(ui::txtsavename, platform::Desk::Caret::overAll);
 }
 
 void clickLoadGame(GameScreen& screen) {
@@ -107,13 +124,11 @@ void clickSave(GameScreen& screen) {
   } else if (const std::string* old = selectedName(scene.form[ui::File2])) {
     name = *old;
   } else {
-    scene.desk.showBox(kSaveError, "Choose from the list or enter a new one!");
-    return;
+    return refuseToSave(scene, "Choose from the list or enter a new one!");
   }
   std::string error;
   if (!store::saveGame(screen.folder() + "/" + name, scene.game, scene.values, error)) {
-    scene.desk.showBox(kSaveError, error);
-    return;
+    return refuseToSave(scene, error);
   }
   scene.form.hide(ui::framesave);
   play::say(scene, "Game saved");

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "map/picture_set.h"
+#include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/control.h"
 #include "platform/display.h"
@@ -77,6 +78,8 @@ struct Services {
   std::string programFolder;  // where games, progress and sounds lie
   /// Lets events that wait at the window in, in the middle of a handler. May be empty.
   std::function<void()> letEventsIn;
+  /// Null where the program shares none with others.
+  platform::Clipboard* clipboard = nullptr;
 };
 
 }  // namespace shell

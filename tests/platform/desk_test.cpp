@@ -1,6 +1,7 @@
 #include "platform/desk.h"
 
 #include "platform/layout.h"
+#include "platform/natural_order.h"
 #include "toolkit_fixture.h"
 
 namespace platform {
@@ -120,7 +121,7 @@ TEST_F(DeskRules, ATextBoxIsEditedByWholeCharactersUpToItsCapacity) {
   EXPECT_EQ(text, "xtru");
   const int left = textBoxInside(form_.onScreen(kEntry)).left;
   click({left + testFont().width("xt", FontSize::pt11), at(kEntry, 0, 9).y});
-  EXPECT_EQ(desk_.caret(), 2u);
+  EXPECT_EQ(desk_.selection().caret, 2u);
   desk_.key(Key::end);
   for (int i = 0; i < 400; ++i) desk_.type("\xC3\xA4");
   desk_.key(Key::backspace);
@@ -131,6 +132,81 @@ TEST_F(DeskRules, ATextBoxIsEditedByWholeCharactersUpToItsCapacity) {
   click(at(kButton, 5, 5));
   desk_.type("z");
   EXPECT_TRUE(text.empty());
+}
+
+TEST_F(DeskRules, ATextBoxSelectsByKeysAndPointerAndGoesThroughTheClipboard) {
+  const Text& text = form_[kEntry].text;
+  const auto key = [this](Key struck, const char* held = "") {
+    const std::string_view with = held;
+    desk_.key(struck, {with.find('s') != with.npos, with.find('c') != with.npos});
+  };
+  desk_.focusOn(kEntry, Desk::Caret::atEnd);
+  desk_.type("old g\xC3\xB6t-2");
+  key(Key::left, "c"), key(Key::left, "cs");
+  EXPECT_EQ(desk_.selection().of(text), "g\xC3\xB6t-");
+  key(Key::cut), key(Key::home), key(Key::paste), key(Key::end), key(Key::paste);
+  EXPECT_EQ(text, "g\xC3\xB6t-old 2g\xC3\xB6t-");
+  key(Key::left, "s"), key(Key::left), key(Key::backspace);
+  EXPECT_EQ(text, "g\xC3\xB6t-old 2g\xC3\xB6-")
+      << "a move without shift goes to the end of what is selected";
+  key(Key::home), key(Key::deleteForward, "c"), key(Key::right, "cs");
+  EXPECT_EQ(desk_.selection().of(text), "-old");
+  key(Key::copy), key(Key::selectAll), key(Key::paste);
+  EXPECT_EQ(text, "-old");
+  form_[kEntry].text.assign("n");
+  EXPECT_EQ(desk_.selection(), (Selection{1, 1})) << "the screen wrote another text";
+
+  form_[kEntry].text.assign("one two");
+  const auto before = [this](std::string_view part) {
+    return at(kEntry, 4 + testFont().width(part, FontSize::pt11), 9);
+  };
+  click(before("one t"));
+  EXPECT_TRUE(desk_.selection().empty());
+  click(before("one t"));
+  EXPECT_EQ(desk_.selection().of(text), "two") << "a double-click";
+  desk_.setNow(5000);
+  press(before("one"));
+  desk_.pointerMoved(before("o"));
+  desk_.buttonUp();
+  desk_.pointerMoved(before("one two"));
+  EXPECT_EQ(desk_.selection(), (Selection{1, 3}));
+  desk_.buttonDown({.shift = true});
+  EXPECT_EQ(desk_.selection(), (Selection{7, 3}));
+
+  // A long text moves only as far as its caret asks for.
+  desk_.focusOn(kEntry, Desk::Caret::atEnd);
+  desk_.type(std::string(40, 'm'));
+  const int shift = desk_.textShift();
+  EXPECT_GT(shift, 0);
+  key(Key::left);
+  EXPECT_EQ(desk_.textShift(), shift);
+  key(Key::home);
+  EXPECT_EQ(desk_.textShift(), 0);
+}
+
+TEST_F(DeskRules, TwoPressesOnANameInTimeAreADoubleClick) {
+  const Point first = at(kFiles, 9, 9), second = at(kFiles, 9, 9 + kListRowHeight);
+  desk_.setNow(1000);
+  for (const Point& name : {first, second, second}) click(name);
+  EXPECT_EQ(count("double", kFiles), 1);
+  click(second);
+  EXPECT_EQ(count("double", kFiles), 1) << "the third is a first one again";
+  desk_.setNow(1001 + kDoubleClick);
+  click(second);
+  const ListLayout layout = listLayout(form_.onScreen(kFiles), *form_[kFiles].list);
+  for (int i = 0; i < 4; ++i) click({layout.down.left + 3, layout.down.top + 3});
+  EXPECT_EQ(count("double", kFiles), 1);
+}
+
+TEST(NaturalOrder, PutsNamesWherePeopleLookForThem) {
+  const std::vector<std::string> sorted{
+      "",    "1",   "Arbor 2", "arbor 10", "\xC3\x84rger 3", "Art",
+      "Zoo", "zoo", "zoo 01",  "zoo 1",    "zoo 1a",         "\xE2\x82\xAC"};
+  for (std::size_t i = 0; i < sorted.size(); ++i) {
+    for (std::size_t j = 0; j < sorted.size(); ++j) {
+      EXPECT_EQ(comesBefore(sorted[i], sorted[j]), i < j) << sorted[i] << " and " << sorted[j];
+    }
+  }
 }
 
 TEST_F(DeskRules, AMessageBoxTakesEverythingAndBoxesQueue) {

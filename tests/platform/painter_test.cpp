@@ -50,6 +50,9 @@ class Painting : public Toolkit {
         [&] { desk_.wheel(rolled(-2, 2)); },
         [&] { rolled(0, 4) != 0 ? desk_.closeBox() : desk_.showBox("Title", control.text); },
         [&] { desk_.type("ab"); },
+        [&] {
+          desk_.key(static_cast<Key>(rolled(0, 11)), {rolled(0, 1) != 0, false});
+        },
         [&] { now_ += rolled(0, 900), desk_.setNow(now_); },
         [&] { form_.show(panel); },
         [&] {
@@ -58,7 +61,7 @@ class Painting : public Toolkit {
           rolled(0, 3) != 0 ? desk_.buttonDown() : desk_.buttonUp();
         },
     };
-    changes[std::min<std::size_t>(dice_() % 24, std::size(changes) - 1)]();
+    changes[std::min<std::size_t>(dice_() % 25, std::size(changes) - 1)]();
   }
 
   Dice dice_{11};

@@ -73,6 +73,7 @@ class Toolkit : public testing::Test, protected FormListener {
   void onMouseMove(int id, int x, int y) override { note({"move", id, x, y}); }
   void onMouseDown(int id, int x, int y) override { note({"down", id, x, y}); }
   void onClick(int id) override { note({"click", id, 0, 0}); }
+  void onDoubleClick(int id) override { note({"double", id, 0, 0}); }
   void onChoose(int id) override { note({"choose", id, 0, 0}); }
 
   using Told = std::tuple<std::string, int, int, int>;

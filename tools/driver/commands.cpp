@@ -207,10 +207,18 @@ std::string type(Call& call) {
   return ok();
 }
 
+/// Takes a word such as "Ctrl+" off the front of a key's name.
+bool takePrefix(std::string_view& name, std::string_view prefix) {
+  if (!name.starts_with(prefix)) return false;
+  name.remove_prefix(prefix.size());
+  return true;
+}
+
 std::string key(Call& call) {
   struct Named {
     std::string_view name;
     platform::Key key;
+    bool withControl = false;
   };
   constexpr Named kKeys[] = {
       {"Backspace", platform::Key::backspace},
@@ -221,10 +229,18 @@ std::string key(Call& call) {
       {"Home", platform::Key::home},
       {"End", platform::Key::end},
       {"Delete", platform::Key::deleteForward},
+      {"A", platform::Key::selectAll, true},
+      {"C", platform::Key::copy, true},
+      {"X", platform::Key::cut, true},
+      {"V", platform::Key::paste, true},
   };
+  std::string_view name = call.rest;
+  platform::Modifiers held;
+  held.control = takePrefix(name, "Ctrl+");
+  held.shift = takePrefix(name, "Shift+");
   for (const Named& named : kKeys) {
-    if (call.words.size() != 1 || call.words[0] != named.name) continue;
-    call.desk().key(named.key);
+    if (name != named.name || (named.withControl && !held.control)) continue;
+    call.desk().key(named.key, held);
     call.session.program().settle();
     return ok();
   }

@@ -20,36 +20,40 @@ Point rested(Point point) {
           std::clamp(point.y, kRest, kScreenHeight - 1 - kRest)};
 }
 
-bool keyOf(SDL_Keycode code, Key& key) {
-  switch (code) {
-    case SDLK_BACKSPACE:
-      key = Key::backspace;
-      return true;
-    case SDLK_RETURN:
-    case SDLK_KP_ENTER:
-      key = Key::enter;
-      return true;
-    case SDLK_ESCAPE:
-      key = Key::escape;
-      return true;
-    case SDLK_LEFT:
-      key = Key::left;
-      return true;
-    case SDLK_RIGHT:
-      key = Key::right;
-      return true;
-    case SDLK_HOME:
-      key = Key::home;
-      return true;
-    case SDLK_END:
-      key = Key::end;
-      return true;
-    case SDLK_DELETE:
-      key = Key::deleteForward;
-      return true;
-    default:
-      return false;
+struct KeyName {
+  SDL_Keycode code;
+  Key key;
+};
+constexpr KeyName kKeys[] = {
+    {SDLK_BACKSPACE, Key::backspace}, {SDLK_RETURN, Key::enter}, {SDLK_KP_ENTER, Key::enter},
+    {SDLK_ESCAPE, Key::escape},       {SDLK_LEFT, Key::left},    {SDLK_RIGHT, Key::right},
+    {SDLK_HOME, Key::home},           {SDLK_END, Key::end},      {SDLK_DELETE, Key::deleteForward}};
+constexpr KeyName kKeysWithControl[] = {
+    {SDLK_a, Key::selectAll}, {SDLK_c, Key::copy}, {SDLK_x, Key::cut}, {SDLK_v, Key::paste}};
+
+Modifiers heldOf(int held) {
+  return {(held & KMOD_SHIFT) != 0, (held & KMOD_CTRL) != 0};
+}
+
+bool keyOf(const SDL_KeyboardEvent& event, Key& key) {
+  const SDL_Keysym& sym = event.keysym;
+  for (const KeyName& name : kKeys) {
+    if (name.code != sym.sym) continue;
+    key = name.key;
+    // Holding Enter or Escape down answers one question, not all that follow.
+    return event.repeat == 0 || (key != Key::enter && key != Key::escape);
   }
+  // The Alt of some keyboards, which makes other letters, comes with a Ctrl of its own.
+  if ((sym.mod & KMOD_CTRL) == 0 || (sym.mod & KMOD_ALT) != 0) return false;
+  // Where the keyboard writes no Latin letters, their usual places count.
+  const SDL_Keycode code =
+      sym.sym < 0x80 ? sym.sym : static_cast<int>(sym.scancode) - SDL_SCANCODE_A + SDLK_a;
+  for (const KeyName& name : kKeysWithControl) {
+    if (name.code != code) continue;
+    key = name.key;
+    return true;
+  }
+  return false;
 }
 
 bool switchesFullScreen(const SDL_Keysym& sym) {
@@ -80,6 +84,7 @@ bool SdlEvents::translate(const SDL_Event& event, Event& into) {
       if (held_ != 0) return false;
       held_ = event.button.button;
       into.kind = EventKind::down;
+      into.held = heldOf(SDL_GetModState());
       into.point = last_ = display_.pictured({event.button.x, event.button.y});
       return true;
     case SDL_MOUSEBUTTONUP:
@@ -104,7 +109,8 @@ bool SdlEvents::translate(const SDL_Event& event, Event& into) {
         return true;
       }
       into.kind = EventKind::key;
-      return keyOf(event.key.keysym.sym, into.key);
+      into.held = heldOf(event.key.keysym.mod);
+      return keyOf(event.key, into.key);
     case SDL_WINDOWEVENT:
       return translateWindow(event, into);
     case SDL_QUIT:

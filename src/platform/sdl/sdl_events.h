@@ -29,6 +29,7 @@ struct Event {
   Point point{};  // pixel of the framebuffer, 0..799 and 0..599
   int steps = 0;
   Key key = Key::enter;
+  Modifiers held{};             // beside a key or a press
   std::array<char, 32> text{};  // ends with a zero byte
 };
 
