@@ -17,8 +17,9 @@ std::string at(const char* what, int x, int y) {
   return std::string(what) + " " + to_string(x) + " " + to_string(y);
 }
 
-constexpr const char* kKeys[] = {"Backspace", "Enter", "Escape", "Left",
-                                 "Right",     "Home",  "End",    "Delete"};
+constexpr const char* kKeys[] = {"Backspace", "Enter",  "Escape",     "Left",           "Right",
+                                 "Home",      "End",    "Delete",     "Ctrl+A",         "Ctrl+X",
+                                 "Ctrl+V",    "Ctrl+C", "Shift+Home", "Ctrl+Shift+Left"};
 constexpr const char* kTexts[] = {
     "a",   "b", "town", "Stadt", "\xC3\xA9t\xC3\xA9", "x y", "\"'%$,",      ".", "..", "/",
     "a/b", "0", "-",    "sav",   "bad.sav",           "\\",  "\xE2\x82\xAC"};
