@@ -30,27 +30,61 @@ def db(value):
 
 def weighted(sound):
     """The K weighting of ITU-R BS.1770: a high shelf and a high pass, as a response over frequency."""
-    n = 1 << math.ceil(math.log2(len(sound) + 8192))
+    # In pieces that fit the cache, each with the end of the one before it, long enough for the
+    # high pass to have forgotten what lies further back.
+    n, before = 1 << 17, 8192
     # The published coefficients are for 48 kHz: evaluate them at that rate's own frequencies.
     z = np.exp(-2j * np.pi * np.arange(n // 2 + 1) * RATE / n / 48000)
     shelf = (1.53512485958697 - 2.69169618940638 * z + 1.19839281085285 * z * z) / \
             (1 - 1.69065929318241 * z + .73248077421585 * z * z)
     high = (1 - 2 * z + z * z) / (1 - 1.99004745483398 * z + .99007225036621 * z * z)
-    out = [np.fft.irfft(np.fft.rfft(sound[:, c], n) * shelf * high, n)[:len(sound)]
-           for c in range(sound.shape[1])]
-    return np.stack(out, 1)
+    response = (shelf * high)[:, None]
+    padded = np.concatenate([np.zeros((before, sound.shape[1])), sound])
+    out = [np.fft.irfft(np.fft.rfft(padded[i:i + n], n, axis=0) * response, n, axis=0)[before:]
+           for i in range(0, len(sound), n - before)]
+    return np.concatenate(out)[:len(sound)]
+
+
+def level(power):
+    """Loudness in LUFS of weighted power, without gates."""
+    return -.691 + 10 * math.log10(power.mean() + 1e-12)
+
+
+def power(sound):
+    return (weighted(sound) ** 2).sum(1)
 
 
 def loudness(sound):
     """Integrated loudness in LUFS: blocks of 400 ms, gated at -70 and at 10 below the mean."""
-    power = (weighted(sound) ** 2).sum(1)
-    total = np.concatenate([[0], np.cumsum(power)])
-    block, hop = int(.4 * RATE), int(.1 * RATE)
-    starts = np.arange(0, len(power) - block, hop)
-    mean = (total[starts + block] - total[starts]) / block
-    level = -.691 + 10 * np.log10(mean + 1e-12)
-    gate = -.691 + 10 * math.log10(mean[level > -70].mean()) - 10
-    return -.691 + 10 * math.log10(mean[level > max(gate, -70)].mean())
+    mean = blocks(sound, .1)
+    levels = -.691 + 10 * np.log10(mean + 1e-12)
+    gate = level(mean[levels > -70]) - 10
+    return level(mean[levels > max(gate, -70)])
+
+
+def blocks(sound, hop):
+    """The mean weighted power of each 400 ms, one block every so many seconds."""
+    total = np.concatenate([[0], np.cumsum(power(sound))])
+    block = int(.4 * RATE)
+    starts = np.arange(0, len(sound) - block, int(hop * RATE))
+    return (total[starts + block] - total[starts]) / block
+
+
+def loudest(cue):
+    """The loudest 400 ms of a cue of one channel, in LUFS, as both loudspeakers play it."""
+    rest = np.zeros(RATE // 2)
+    sound = np.concatenate([rest, cue, rest])
+    return level(blocks(np.stack([sound, sound], 1), .005).max(keepdims=True))
+
+
+def share(sound, low, high):
+    """The part of the energy that lies between two frequencies."""
+    size, mono = 8192, sound.mean(1)
+    spectrum = np.full(size // 2 + 1, 1e-12)
+    for i in range(0, len(mono) - size, size // 2):
+        spectrum += np.abs(np.fft.rfft(mono[i:i + size] * np.hanning(size))) ** 2
+    hertz = np.fft.rfftfreq(size, 1 / RATE)
+    return spectrum[(hertz >= low) & (hertz < high)].sum() / spectrum.sum()
 
 
 def bands(sound):

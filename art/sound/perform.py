@@ -22,9 +22,17 @@ class Played:
         self.written = start
 
 
+class Written:
+    """A note of a line as the page has it, before ornaments and timing."""
+
+    def __init__(self, row, start, length, key):
+        self.row, self.start, self.length, self.key = row, start, length, key
+
+
 class Performance:
     def __init__(self, score):
         self.score = score
+        self.written = []
         self.notes, self.expression, self.spans = [], [], []
         self.bar, self.level = 0, {}
         for section, after in zip(score.sections, score.sections[1:] + [None]):
@@ -70,7 +78,7 @@ class Performance:
                 raise ScoreError(f"unknown kind of row: {row['kind']}")
             play(section, row, start)
         self.bar += len(section.chords)
-        lead = section.rows[0]['part'].name
+        lead = None if section.alone else section.rows[0]['part'].name
         self.spans.append((section.name, start, self.bar * self.score.beats, lead))
 
     def _add(self, row, start, length, key, velocity, role):
@@ -104,6 +112,7 @@ class Performance:
         for i, (bar, beat, length, note, marks) in enumerate(written):
             key = note.pitch + 12 * row['oct']
             at = start + bar * self.score.beats + beat
+            self.written.append(Written(row, at, length, key))
             velocity = self._arc(section, bar, beat) + self._accent(beat)
             velocity += 9 * ('>' in marks)
             after = written[i + 1] if i + 1 < len(written) else None

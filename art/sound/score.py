@@ -81,6 +81,7 @@ class Section:
         self.name, self.chords, self.dyn = name, [], (80, 80)
         self.pace, self.scale, self.rows = 1.0, None, []
         self.phrases = [4]
+        self.alone = False  # no melody: the accompaniment plays by itself
 
     def phrase_at(self, bar):
         """The first bar of the phrase that a bar belongs to, and its number of bars."""
@@ -198,6 +199,8 @@ class Score:
                 section.phrases = [int(n) for n in words.pop(0).split(',')]
             elif word == 'pace':
                 section.pace = float(words.pop(0))
+            elif word == 'alone':
+                section.alone = True
             elif word == 'in':
                 section.scale = self._scale([words.pop(0), words.pop(0)])
             else:
@@ -205,15 +208,17 @@ class Score:
         self.sections.append(section)
 
     def _row(self, words):
-        """part line|pat|pad|drone names... [oct n] [vel n] [level dB] [from bar] [to bar]"""
+        """part line|pat|pad|drone names... [oct n] [vel n] [level dB] [from bar] [to bar] [doubles part]"""
         section = self.sections[-1]
         row = {'part': self.parts[words[0]], 'kind': words[1], 'names': [],
-               'oct': 0, 'vel': 0, 'level': 0, 'from': 1, 'to': len(section.chords)}
+               'oct': 0, 'vel': 0, 'level': 0, 'from': 1, 'to': len(section.chords), 'doubles': None}
         words = words[2:]
         while words:
             word = words.pop(0)
             if word in ('oct', 'vel', 'level', 'from', 'to'):
                 row[word] = int(words.pop(0))
+            elif word == 'doubles':
+                row[word] = self.parts[words.pop(0)].name
             else:
                 row['names'].append(word)
         if row['kind'] == 'line' and len(self.lines[row['names'][0]]) < row['to']:
