@@ -82,11 +82,11 @@ def pluck(rng, hertz, seconds):
     return out
 
 
-def knock(rng):
-    """A hammer on a wooden peg, with a little of the iron in it."""
+def knock(rng, iron=1):
+    """A hammer on a wooden peg, with some of the iron in it."""
     out = modes(.16, [(410, 1, .022, 0), (660, .7, .016, .7), (1130, .45, .011, .2),
-                      (2710, .12, .026, .3), (4180, .07, .020, 1)])
-    mix(out, band_pass(fall(noise(rng, .05), .004), 2200, .8), 0, .6)
+                      (2710, .12 * iron, .026, .3), (4180, .07 * iron, .020, 1)])
+    mix(out, band_pass(fall(noise(rng, .05), .004), 2200, .8), 0, .6 * iron)
     return out
 
 
@@ -109,17 +109,17 @@ def tick():
 
 
 def build():
-    """thump of a building set down and two strokes of the hammer"""
+    """thump of a building set down, a stroke of the hammer and a softer one"""
     rng, out = random.Random(13), silence(.62)
     thump, phase = [], 0.0
     for i in range(int(.42 * RATE)):
         phase += 2 * math.pi * (62 + 90 * math.exp(-i / RATE / .025)) / RATE
         thump.append(math.sin(phase))
-    mix(out, fall(thump, .06, .002), 0)
+    mix(out, fall(thump, .05, .002), 0)
     mix(out, fall(low_pass(noise(rng, .22), 500), .03), 0, .35)
-    mix(out, knock(rng), .20, .62)
-    mix(out, knock(rng), .40, .48)
-    return finish(out, -4)
+    mix(out, knock(rng), .20, .58)
+    mix(out, knock(rng, .5), .40, .26)
+    return finish(out, -9.2)
 
 
 def crumble():
@@ -136,7 +136,7 @@ def crumble():
         # Grains close together would be one hiss: the gaps grow so that stones can be told apart.
         at += rng.expovariate(1 / .014) + .010 + at * .045
     out = [v * min(1, (.68 - i / RATE) / .18) ** .7 for i, v in enumerate(out)]
-    return finish(out, -4)
+    return finish(out, -6.6)
 
 
 def finish(sound, peak):
