@@ -13,9 +13,9 @@ namespace map {
 using platform::Color;
 using platform::Surface;
 
-/// Whether a pixel of a 64 x 32 box belongs to the cell's diamond.
-inline bool inDiamond(int px, int py) {
-  return std::abs(2 * px - 63) + 2 * std::abs(2 * py - 31) < 64;
+/// Whether a pixel of a box of 64 x 32 units belongs to the cell's diamond.
+inline bool inDiamond(int px, int py, int scale = 1) {
+  return std::abs(2 * px + 1 - 64 * scale) + 2 * std::abs(2 * py + 1 - 32 * scale) < 64 * scale;
 }
 
 inline Color colorOf(int picture) {

@@ -1,7 +1,7 @@
 // heath.pov -- one flat ground cell of scrub: single thickets in the meadow, and
 // in a row a hedge, the rim of the play square.  Uneven lumps and tall grass reach
-// near all four edges, so that a row has no gaps.  Low and dark towards the lower
-// edges, where the land may end: there the void begins softly.
+// near all four edges, so that a row has no gaps; towards the lower edges the grass takes the meadow's
+// colour, or a single thicket would show the cell's outline.
 // A point at height z needs min(x, y) >= 1.2247*z.
 #version 3.7;
 #include "iso.inc"
@@ -41,7 +41,7 @@ Ground()
   #end
 #end
 #declare cLow = C("4C7F34"); #declare cMid = C("588F3A"); #declare cHigh = C("69A344");
-#declare cDry = C("86A84A"); #declare cDeep = C("3F742E"); #declare cBlade = C("7FA048");
+#declare cDry = C("86A84A"); #declare cDeep = C("3F742E"); #declare cBlade = C("7FA048"); #declare cFront = C("74A042")*1.25;
 Lump(0.14, 0.47, 0.085, 0.60, cMid, 201)
 Lump(0.47, 0.14, 0.090, 0.60, cDry, 202)
 Lump(0.34, 0.38, 0.135, 1.00, cHigh, 203)
@@ -53,11 +53,11 @@ Lump(0.51, 0.86, 0.125, 1.05, cLow, 208)
 Grass(0.25, 0.25, 0.16, 0.10, 50, cBlade, 211)
 Grass(0.14, 0.78, 0.13, 0.10, 50, cBlade, 212)
 Grass(0.80, 0.16, 0.15, 0.11, 50, cBlade, 213)
-Grass(0.80, 0.80, 0.18, 0.14, 90, cMid*1.2, 214)
-Grass(0.94, 0.30, 0.07, 0.12, 34, cMid*1.1, 215)
-Grass(0.28, 0.93, 0.20, 0.11, 50, cMid*1.1, 216)
-Grass(0.94, 0.68, 0.06, 0.12, 30, cMid, 217)
-Grass(0.70, 0.95, 0.14, 0.12, 40, cMid, 218)
+Grass(0.77, 0.77, 0.16, 0.13, 60, cFront, 214)
+Grass(0.92, 0.28, 0.09, 0.11, 34, cFront, 215)
+Grass(0.28, 0.90, 0.16, 0.10, 40, cFront, 216)
+Grass(0.93, 0.64, 0.06, 0.12, 24, cFront, 217)
+Grass(0.66, 0.93, 0.10, 0.12, 28, cFront, 218)
 // a few flowers in the grass
 #declare Rn = seed(231);
 #declare I = 0;

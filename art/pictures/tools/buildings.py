@@ -7,7 +7,7 @@ import render as scenes
 # drawing: scene, kind of canvas, options, picture numbers of its pieces in
 # the order anchor, x + 1, y + 1, both (or of its one cell)
 DRAWINGS = {
-    'heath':     ('heath', 'tile', {'line': .28, 'reach': 2}, [29]),
+    'heath':     ('heath', 'tile', {'line': .26, 'reach': 4}, [29]),
     'tent':      ('tent', 'tile', {}, [4]),
     'house':     ('house', 'flat', {}, [19, 35, 33, 34]),
     'apartment': ('apartment', 'apt', {}, [3, 5, 6, 7]),

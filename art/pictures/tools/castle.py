@@ -30,7 +30,7 @@ def castle():
     x0, y0, W, H = CASTLE
     for s, img in shot('castle', W, H, 992 - x0, 32 - y0, 4, 24).items():
         img[box(square(12, s), *CASTLE, s)] = 0
-        save_rgb('tile/62', img, s)
+        save_land('tile/62', img, s)
 
 
 def render(parts=None):

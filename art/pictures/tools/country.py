@@ -320,7 +320,7 @@ def band():
     X0, Y0, W, H = BAND
     for s, img in shot('country', W, H, 992 - X0, 32 - Y0, 4, 14).items():
         img[box(square(18, s), *BAND, s)] = 0
-        save_rgb('mask/48', img, s)
+        save_land('mask/48', img, s)
 
 
 P = 3.8125                                      # the water pictures repeat every P cells along y
@@ -365,7 +365,7 @@ def coast(harbour=False):
     w.Z *= smooth(.15, 1.4, sd) * smooth(.6, -.4, Y)
     w.Z = (w.Z + .05 * smooth(.0, .22, sd) - .07 * smooth(.05, -.05, sd)).astype(np.float32)
     top = 2.3 * smooth(2.4, 3.7, X - Y)                 # the picture on the right begins lower
-    rim = np.where(Y < .6, np.minimum(rim, ((X + Y) - top - .5 - .55 * smooth(3.2, 2.2, X - Y) - 2.45 * w.Z + .3 * w.noise(.8, 6)) * .5), rim)
+    rim = np.minimum(rim, 3 * smooth(-.2, .7, Y) + ((X + Y) - top - .5 - .55 * smooth(3.2, 2.2, X - Y) - 2.45 * w.Z + .3 * w.noise(.8, 6)) * .5)
     w.rim = rim
     w.meadow(31)
     # the bank of the strip repeats
@@ -501,42 +501,43 @@ def cut_water(img, X0, Y0, img2, x0, y0, s):
     # the water picture that repeats: one slice of the river
     u, v = cells(699, 80)
     free = ~box(inside, 699, 80, 288, 144, s)
-    # The last one ends with the map: its water breaks up into level dashes, its
-    # banks into blades.  The others are whole all the same, since their neighbours
-    # begin before that.
-    wet = smooth(-.5, .0, u) * smooth(3.05, 2.4, u)
-    last = 27 - Y1 - 6 * P + .04 + np.where(wet > .5, .24 * dashes(v.shape, 12 * s, s, 61), .07 * dashes(v.shape, s, 4 * s, 62))
-    plain = np.where(((v > 0) & (v < last) & free)[..., None], per(699, 80), 0)
-    save_rgb('mask/53', plain, s)
+    # The last one ends with the map and darkens towards its end.  The others are
+    # whole all the same: the neighbour of each begins before that, and the two are
+    # ORed.
+    r = np.random.RandomState(61)
+    ragged = blur(r.randn(*v.shape), 3 * s) * 3 * s + .5 * blur(r.randn(*v.shape), s) * s
+    plain = np.where(((v > 0) & free)[..., None], per(699, 80), 0)
+    plain = np.round(np.clip(plain, 0, 1) * 255).astype(np.uint8)
+    plain = dimmed(plain, np.where(v < P + .05, 1, smooth(4.42, 3.92, v + .05 * np.clip(ragged, -1.5, 1.5))))
+    save_land('mask/53', plain, s)
     # the first one: the bend; its lower tip is as in the others
     u, v = cells(821, 19)
     free = ~box(inside, 821, 19, 288, 144, s)
     shape = (v < 4.5) & free
     bendp = np.where((v < P)[..., None], at(821, 19, 288, 144), per(821, 19))
     bendp = np.where(shape[..., None], bendp, 0)
-    save_rgb('tile/53', bendp, s)
+    save_land('tile/53', bendp, s)
     own = np.zeros(inside.shape, bool)
     box(own, 821, 19, 288, 144, s)[:] = load_rgb('tile/53', s).any(-1)
     box(own, 699, 80, 288, 144, s)[:] |= plain.any(-1)
     c = at(*COAST).copy()
     c[box(inside, *COAST, s) | box(own, *COAST, s)] = 0
-    save_rgb('tile/48', c, s)
+    save_land('tile/48', c, s)
     # the landing place
     u, v = cells(455, 202)
     free = ~box(inside, 455, 202, 288, 144, s)
     own = (v > 4.5 - P) & (v < P)
     p = np.where(own[..., None], box(img2, 455 - x0, 202 - y0, 288, 144, s), per(455, 202))
-    save_rgb('mask/22', np.where(((v > 0) & (v < 4.5) & free)[..., None], p, 0), s)
+    save_land('mask/22', np.where(((v > 0) & (v < 4.5) & free)[..., None], p, 0), s)
 
 
-def dashes(shape, w, h, seed):
-    """Noise -1..1 in level (or upright) dashes of about w x h pixels."""
-    r = np.random.RandomState(seed)
-    y, x = np.mgrid[0:shape[0], 0:shape[1]]
-    lines, places = (y // h, x + 7 * w) if w > h else (x // w, y + 7 * h)
-    long = max(w, h)
-    shift = r.randint(long, size=lines.max() + 1)[lines]
-    return r.uniform(-1, 1, (lines.max() + 1, places.max() // long + 2))[lines, (places + shift) // long]
+def dimmed(img, f):
+    """Colours times f as far as their own bits allow: a dimmed pixel ORed with the
+    whole one gives the whole one."""
+    out = np.zeros_like(img)
+    for bit in (128, 64, 32, 16, 8, 4, 2, 1):
+        out |= np.where((img & bit > 0) & (out + bit <= img * f[..., None]), bit, 0).astype(np.uint8)
+    return out
 
 
 def ripple(w, mask, seed, n, size=(.10, .34), bright=.5):

@@ -40,5 +40,20 @@ def save_rgb(name, img, s=1):
     Image.fromarray(np.ascontiguousarray(img[..., :3]), 'RGB').save(path(name, s), compress_level=9)
 
 
+def strays(img):
+    """Coloured pixels of a picture (uint8) with no coloured neighbour."""
+    m = np.pad((img > 8).any(-1), 1)
+    near = sum(np.roll(m, (j, i), (0, 1)).astype(int) for j in (-1, 0, 1) for i in (-1, 0, 1)) - m
+    return (m & (near == 0))[1:-1, 1:-1]
+
+
+def save_land(name, img, s=1):
+    """The same for a landscape: specks alone in the black go."""
+    if img.dtype != np.uint8:
+        img = np.round(np.clip(img, 0, 1) * 255).astype(np.uint8)
+    img[strays(img)] = 0
+    save_rgb(name, img, s)
+
+
 def load_rgb(name, s=1):
     return np.array(Image.open(path(name, s)).convert('RGB'))
