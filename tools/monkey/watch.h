@@ -76,12 +76,9 @@ class Watch {
   std::string fault_;
   Tally tally_;
 
-  int opened_ = -1;          // number of the open screen
-  bool spoilt_ = false;      // the city came from a damaged file
-  bool stale_ = false;       // a road was lost: residences may show another stage than they have
-  bool shaken_ = false;      // there was an earthquake on this screen
-  bool openedWell_ = false;  // the surface has been seen whole since the screen opened
-  bool misplaced_ = false;   // a load put the map back in the middle of it
+  int opened_ = -1;      // number of the open screen
+  bool spoilt_ = false;  // the city came from a damaged file
+  bool stale_ = false;   // a road was lost: residences may show another stage than they have
   std::array<std::int64_t, core::game_timer::kTimers.size()> onSince_{};  // -1: off
 
   std::string loading_;  // the game that is being loaded, what its file holds, whether it is spoilt
