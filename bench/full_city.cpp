@@ -69,7 +69,7 @@ void FullCity::use(int tool, int x, int y) {
   game().gold = 100000;
   game().cellX = x;
   game().cellY = y;
-  play::useTool(scene(), tool, play::Hand::player);
+  play::useTool(scene(), tool, {x, y}, play::User::player);
 }
 
 }  // namespace bench

@@ -6,8 +6,14 @@
 #include "map/walkers.h"
 #include "play/press.h"
 #include "shell/game_tick.h"
+#include "sim/calendar.h"
 #include "sim/coverage.h"
-#include "sim/month_tick.h"
+#include "sim/flood.h"
+#include "sim/food.h"
+#include "sim/history.h"
+#include "sim/population.h"
+#include "sim/rebuild.h"
+#include "sim/treasury.h"
 #include "store/record.h"
 
 namespace {
@@ -42,7 +48,7 @@ void PressThatPlacesAResidence(benchmark::State& state) {
 BENCHMARK(PressThatPlacesAResidence);
 
 void FloodServices(benchmark::State& state) {
-  for (auto _ : state) sim::floodServices(city().game(), sim::FloodCause::other);
+  for (auto _ : state) sim::floodServices(city().game());
 }
 BENCHMARK(FloodServices);
 
@@ -51,7 +57,7 @@ void FloodServicesFromNothing(benchmark::State& state) {
     state.PauseTiming();
     for (int k = 1; k <= core::kServices; ++k) sim::clearLayer(city().game(), k);
     state.ResumeTiming();
-    sim::floodServices(city().game(), sim::FloodCause::other);
+    sim::floodServices(city().game());
   }
 }
 BENCHMARK(FloodServicesFromNothing);
@@ -140,13 +146,12 @@ void TenYearsWithoutDrawing(benchmark::State& state) {
         sim::harvest(game, values);
         sim::consume(game);
         if (sim::stepFamine(game).rebuild) {
-          sim::rebuildCoverage(game);
-          sim::rebuildCapacity(game);
+          sim::rebuildCity(game, {.evolve = false});
         }
       }
       sim::moveMoney(game);
       sim::writeHistory(game, values);
-      sim::rateServices(game);
+      sim::rateServices(game, game);
       game.tickOfMonth += 1;
     }
   }

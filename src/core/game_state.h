@@ -51,9 +51,9 @@ struct ProgramValues {
   double moneyFactor = 1;
 };
 
-struct GameState {
-  // Grids. A saved game holds all of them but tileImage.
-  CellGrid<Code> tileCode;                      // what stands on a cell (core/vocabulary.h)
+/// The city: its cells, money, people and time. A saved game holds all of it but tileImage.
+struct City {
+  CellGrid<Code> tileCode;                      // what is built on a cell (core/vocabulary.h)
   Table<std::int16_t, 0, 35, 0, 35> tileImage;  // number of the picture drawn for a cell
   CellGrid<Number> buildingId;                  // the same for all cells of one building
   CellGrid<Number> cellCapacity;                // people that one residence cell holds
@@ -63,56 +63,76 @@ struct GameState {
   LayerGrids<Flag> cellService;  // [k]: residence cell has service k by road
   CellGrid<Flag> cellTall;       // drawn in the tall layer
   CellGrid<Flag> cellDirty;      // to be repainted by the next redraw
+  Number nextBuildingId;
 
   Table<Number, -14, 100, -4, 28> history;  // (column, row): rows 1..14, a column a month
-  Row<Number, 1, 10> toolUnlocked;          // 1 church, 2 school, 3 doctor, 4 tavern
+  Number historyIndex;                      // column of the current month
 
-  // Walkers, slots 1..10; kept only while a game is open.
-  Row<int, 1, kWalkers> walkerX, walkerY, walkerDir, walkerFrame, walkerPxX, walkerPxY,
-      walkerCellDX, walkerCellDY, walkerActive, walkerDone;
-
-  // Money, food, people.
   Number gold, food, population, housingCapacity, farmCount, taxRate;
   Number famineState;  // 0 none, 1 a rebuild is due at the month roll, 2 starving and rebuilt
   Number marketRating, schoolRating, tavernRating, churchRating, doctorRating;  // whole percent
   Number taxPerTick, maintenancePerTick, maintenancePerMonth;
   Number taxThisMonth, maintenanceThisMonth, constructionThisMonth;
 
-  // Time.
-  Number month, tickOfMonth, monthLength, ticksPerMonth, historyIndex;
+  Number month, tickOfMonth, monthLength, ticksPerMonth;
+  Number farmAnimationOn;  // fields change their picture in the course of a month
 
-  // Hand and view.
-  Number nextBuildingId, currentTool, cellX, cellY, buildingHousing, roadNeighbourCount,
-      overlayView;
-  Number walkersOn, farmAnimationOn, newsTicks, hoverLabel, freeWalkerSlot, cellOriginX,
-      cellOriginY;
+  Row<Number, 1, 10> toolUnlocked;  // 1 church, 2 school, 3 doctor, 4 tavern
   Number churchUnlocked, schoolUnlocked, doctorUnlocked, tavernUnlocked;
-  int demolishFlag = 0;
-  int cursorFootprint = 0;
+};
+
+/// The player's hand and view: tool, cell, cursor, scroll, and what is shown of the city.
+struct Hand {
+  Number currentTool, cellX, cellY, overlayView, hoverLabel;
+  Number cellOriginX, cellOriginY;  // corner of the lattice block under the pointer, in pixels
+  Number buildingHousing;           // people that the inspected building holds
+  Number newsTicks;                 // quarter seconds that the banner has been up
+  int demolishFlag = 0;             // the demolition in progress takes a road away
+  int cursorFootprint = 0;          // side of the cursor's diamond, in cells
   int lastPaletteTool = 0;
 
-  // Working numbers that a saved game names; they carry nothing from one handler to the next.
-  Number i, j, k, l, scratchCount, withAccess, withoutAccess, ratingIndex, reachedMission;
-  Row<Number, 1, 15> reserved;
-
-  // Earthquake.
-  int quakeShakePhase = 0, quakeShakeTicks = 0, quakeReportPending = 0;
-  double populationBeforeQuake = 0;
-
-  // Cursor and scrolling, in pixels.
-  int cursorX = 0, cursorY = 0, lastCursorX = 0, lastCursorY = 0, scrollX = 0, scrollY = 0;
+  int cursorX = 0, cursorY = 0, lastCursorX = 0, lastCursorY = 0;  // screen pixels
+  int scrollX = 0, scrollY = 0;                                    // pixels from the resting place
   double cursorPxX = 0, cursorPxY = 0, lastCellPxX = 0, lastCellPxY = 0;
   int cursorHidden = 0, cursorRed = 0, cursorGreen = 0;
+};
 
-  // Work values of drawing and of the walkers' spawn.
-  int drawTileWidth = 0, drawTileHeight = 0, drawBoardSize = 0, drawOffsetY = 0;
-  int blitCount = 0;
+/// The people on the roads, in slots 1..10. Only walkersOn and freeWalkerSlot are saved.
+struct Walkers {
+  Number walkersOn, freeWalkerSlot;
+  Row<int, 1, kWalkers> walkerX, walkerY, walkerDir, walkerFrame, walkerPxX, walkerPxY,
+      walkerCellDX, walkerCellDY, walkerActive, walkerDone;
   int laneCount = 0, laneCount2 = 0, activeWalkers = 0, spawnX = 0, spawnY = 0;
+};
 
-  // Music and demonstration.
+struct Earthquake {
+  int quakeShakePhase = 0, quakeShakeTicks = 0, quakeReportPending = 0;
+  double populationBeforeQuake = 0;
+};
+
+struct Music {
   int musicTrack = 0, musicAuto = 0;
+};
+
+struct Demonstration {
   int demoStep = 0, demoTool = 0;
 };
+
+/// Measures of the drawing, and the copies of the current 200 ms.
+struct Drawing {
+  int drawTileWidth = 0, drawTileHeight = 0, drawBoardSize = 0, drawOffsetY = 0;
+  int blitCount = 0;
+};
+
+/// Working numbers that a saved game names. They carry nothing from one handler to the next.
+struct RecordNumbers {
+  Number i, j, k, l, scratchCount, withAccess, withoutAccess, ratingIndex, reachedMission;
+  Number roadNeighbourCount;
+  Row<Number, 1, 15> reserved;
+};
+
+/// All of a game. A function takes the group that it works on, not the whole.
+struct GameState : City, Hand, Walkers, Earthquake, Music, Demonstration, Drawing, RecordNumbers {};
 
 /// First cell of the play square; its last is mapMargin + gMapSize.
 inline double mapMargin(const ProgramValues& values) {
@@ -120,38 +140,41 @@ inline double mapMargin(const ProgramValues& values) {
 }
 
 /// Cover grid of service k, 1..5.
-inline CellGrid<Flag>& coverGrid(GameState& game, int k) {
+inline CellGrid<Flag>& coverGrid(City& city, int k) {
   switch (k) {
     case kMarket:
-      return game.marketCover;
+      return city.marketCover;
     case kSchool:
-      return game.schoolCover;
+      return city.schoolCover;
     case kTavern:
-      return game.tavernCover;
+      return city.tavernCover;
     case kChurch:
-      return game.churchCover;
+      return city.churchCover;
     default:
-      return game.doctorCover;
+      return city.doctorCover;
   }
 }
-inline const CellGrid<Flag>& coverGrid(const GameState& game, int k) {
-  return coverGrid(const_cast<GameState&>(game), k);
+inline const CellGrid<Flag>& coverGrid(const City& city, int k) {
+  return coverGrid(const_cast<City&>(city), k);
 }
 
 /// Rating of service k, 1..5.
-inline Number& rating(GameState& game, int k) {
+inline Number& rating(City& city, int k) {
   switch (k) {
     case kMarket:
-      return game.marketRating;
+      return city.marketRating;
     case kSchool:
-      return game.schoolRating;
+      return city.schoolRating;
     case kTavern:
-      return game.tavernRating;
+      return city.tavernRating;
     case kChurch:
-      return game.churchRating;
+      return city.churchRating;
     default:
-      return game.doctorRating;
+      return city.doctorRating;
   }
+}
+inline const Number& rating(const City& city, int k) {
+  return rating(const_cast<City&>(city), k);
 }
 
 }  // namespace core

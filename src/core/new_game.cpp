@@ -61,6 +61,7 @@ void resetGame(GameState& game, ProgramValues& values) {
                          &game.maintenanceThisMonth,
                          &game.constructionThisMonth,
                          &game.tickOfMonth,
+                         &game.scratchCount,
                          &game.buildingHousing,
                          &game.roadNeighbourCount,
                          &game.overlayView,

@@ -3,13 +3,14 @@
 #include <array>
 #include <cmath>
 
+#include "core/missions.h"
 #include "core/vocabulary.h"
 
 namespace map {
 
 namespace {
 
-using core::GameState;
+using core::City;
 using core::kGroundImage;
 using core::kGroundImage2;
 using core::kGroundImage3;
@@ -26,45 +27,45 @@ constexpr int kWallLine = 22;
 constexpr std::array<core::CellOffset, 8> kAround{
     {{-1, -1}, {0, -1}, {1, -1}, {-1, 0}, {1, 0}, {-1, 1}, {0, 1}, {1, 1}}};
 
-void scatter(GameState& game, platform::Random& random) {
+void scatter(City& city, platform::Random& random) {
   for (int y = 0; y <= kLastCell; ++y) {
     for (int x = 0; x <= kLastCell; ++x) {
       const double r = std::floor(2 * random.uniform() + 1);
-      game.tileImage(x, y) = r == 1 ? kGroundImage : kGroundImage2;
+      city.tileImage(x, y) = r == 1 ? kGroundImage : kGroundImage2;
     }
   }
 }
 
 // Works in place: a neighbour that this scan has turned already is no longer counted, so a large
 // patch of the second variant is dotted with the third, not filled with it.
-void clump(GameState& game) {
+void clump(City& city) {
   for (int y = 1; y < kLastCell; ++y) {
     for (int x = 1; x < kLastCell; ++x) {
-      if (game.tileImage(x, y) != kGroundImage2) continue;
+      if (city.tileImage(x, y) != kGroundImage2) continue;
       int count = 0;
-      for (const auto& d : kAround) count += game.tileImage(x + d.x, y + d.y) == kGroundImage2;
-      if (count > 5) game.tileImage(x, y) = kGroundImage3;
+      for (const auto& d : kAround) count += city.tileImage(x + d.x, y + d.y) == kGroundImage2;
+      if (count > 5) city.tileImage(x, y) = kGroundImage3;
     }
   }
 }
 
 // In place as well: of two neighbouring dots the first in the scan wipes out the other.
-void clearAroundClumps(GameState& game) {
+void clearAroundClumps(City& city) {
   for (int y = 1; y < kLastCell; ++y) {
     for (int x = 1; x < kLastCell; ++x) {
-      if (game.tileImage(x, y) != kGroundImage3) continue;
-      for (const auto& d : kAround) game.tileImage(x + d.x, y + d.y) = kGroundImage2;
+      if (city.tileImage(x, y) != kGroundImage3) continue;
+      for (const auto& d : kAround) city.tileImage(x + d.x, y + d.y) = kGroundImage2;
     }
   }
 }
 
 // The later test wins: the ring over the lines beside it, the void over both.
-void drawBorders(GameState& game, const core::ProgramValues& values) {
+void drawBorders(City& city, const core::ProgramValues& values) {
   const double s = values.gMapSize;
   const double m = core::mapMargin(values);
   for (int y = 0; y <= kLastCell; ++y) {
     for (int x = 0; x <= kLastCell; ++x) {
-      auto& image = game.tileImage(x, y);
+      auto& image = city.tileImage(x, y);
       if (x == s + m - 1) image = kGroundImage2;
       if (y == s + m - 1) image = kGroundImage2;
       if (x == m + 1) image = kGroundImage2;
@@ -81,32 +82,32 @@ void drawBorders(GameState& game, const core::ProgramValues& values) {
   }
 }
 
-void putWall(GameState& game, int x, int y, int image) {
-  game.tileImage(x, y) = static_cast<std::int16_t>(image);
-  game.cellTall(x, y) = 1;
+void putWall(City& city, int x, int y, int image) {
+  city.tileImage(x, y) = static_cast<std::int16_t>(image);
+  city.cellTall(x, y) = 1;
 }
 
 // The two walls nearest the viewer, one line outside the ring of a square of 12. Their codes stay
 // 0: the cursor never gets there.
-void buildWalls(GameState& game) {
+void buildWalls(City& city) {
   for (int n = kFirstWallCell; n <= kLastWallCell; ++n) {
-    putWall(game, n, kWallLine, kWallAlongX);
-    putWall(game, kWallLine, n, kWallAlongY);
+    putWall(city, n, kWallLine, kWallAlongX);
+    putWall(city, kWallLine, n, kWallAlongY);
   }
-  putWall(game, 15, kWallLine, kTower);
-  putWall(game, kWallLine, kWallLine, kTower);
-  putWall(game, kWallLine, 15, kTower);
+  putWall(city, 15, kWallLine, kTower);
+  putWall(city, kWallLine, kWallLine, kTower);
+  putWall(city, kWallLine, 15, kTower);
 }
 
 }  // namespace
 
-void readmap(GameState& game, const core::ProgramValues& values, platform::Random& random) {
-  scatter(game, random);
-  clump(game);
-  clearAroundClumps(game);
-  game.scratchCount = 0;
-  drawBorders(game, values);
-  if (values.gMission == 9 || values.gMission == 10) buildWalls(game);
+void readmap(City& city, const core::ProgramValues& values, platform::Random& random) {
+  scatter(city, random);
+  clump(city);
+  clearAroundClumps(city);
+  drawBorders(city, values);
+  const core::Mission* mission = core::missionOf(values.gMission);
+  if (mission != nullptr && mission->walls) buildWalls(city);
 }
 
 }  // namespace map

@@ -1,5 +1,5 @@
 // The ground of the map: a rolled meadow, the rings at the border of the play square, the void around
-// it, and in missions 9 and 10 the two front walls of the town.
+// it, and the two front walls of the town in the missions that have them.
 #pragma once
 
 #include "core/game_state.h"
@@ -9,6 +9,6 @@ namespace map {
 
 /// Writes the picture of every cell 0 .. 30, wiping what was shown there, and the tall flags of walls.
 /// Draws nothing. One draw of `random` for each cell.
-void readmap(core::GameState& game, const core::ProgramValues& values, platform::Random& random);
+void readmap(core::City& city, const core::ProgramValues& values, platform::Random& random);
 
 }  // namespace map

@@ -8,7 +8,7 @@ namespace map {
 
 namespace {
 
-using core::GameState;
+using core::City;
 using core::kRoadAlongX;
 using core::kRoadAlongY;
 using core::kRoadJunction;
@@ -43,66 +43,67 @@ constexpr std::array<int, 16> kShapes{
     kRoadJunction,     // up left right down
 };
 
-bool isRoad(const GameState& game, int x, int y) {
-  return game.tileCode(x, y) == core::kRoadCode;
+bool isRoad(const City& city, int x, int y) {
+  return city.tileCode(x, y) == core::kRoadCode;
 }
 
-void setImage(GameState& game, int x, int y, int image) {
-  game.tileImage(x, y) = static_cast<std::int16_t>(image);
+void setImage(City& city, int x, int y, int image) {
+  city.tileImage(x, y) = static_cast<std::int16_t>(image);
 }
 
 }  // namespace
 
-int roadImage(const GameState& game, int x, int y) {
+int roadImage(const City& city, int x, int y) {
   int arms = 0;
-  if (isRoad(game, x, y - 1)) arms += kUp;
-  if (isRoad(game, x - 1, y)) arms += kLeft;
-  if (isRoad(game, x + 1, y)) arms += kRight;
-  if (isRoad(game, x, y + 1)) arms += kDown;
+  if (isRoad(city, x, y - 1)) arms += kUp;
+  if (isRoad(city, x - 1, y)) arms += kLeft;
+  if (isRoad(city, x + 1, y)) arms += kRight;
+  if (isRoad(city, x, y + 1)) arms += kDown;
   return kShapes[static_cast<std::size_t>(arms)];
 }
 
-void shapePlacedRoad(GameState& game, int x, int y) {
-  setImage(game, x, y, roadImage(game, x, y));
-  game.roadNeighbourCount = 0;
+int shapePlacedRoad(City& city, int x, int y) {
+  setImage(city, x, y, roadImage(city, x, y));
+  int neighbours = 0;
   for (const core::CellOffset& d : core::kNeighbours) {
     const int nx = x + d.x;
     const int ny = y + d.y;
-    if (!isRoad(game, nx, ny)) continue;
-    game.roadNeighbourCount += 1;
-    const int image = roadImage(game, nx, ny);
-    if (image == game.tileImage(nx, ny)) continue;
-    setImage(game, nx, ny, image);
-    game.cellDirty(nx, ny) = 1;
+    if (!isRoad(city, nx, ny)) continue;
+    ++neighbours;
+    const int image = roadImage(city, nx, ny);
+    if (image == city.tileImage(nx, ny)) continue;
+    setImage(city, nx, ny, image);
+    city.cellDirty(nx, ny) = 1;
   }
+  return neighbours;
 }
 
-// These four rules and no others: after a demolition a player sees corners and right-angled
+// Deliberate: these four rules and no others. after a demolition a player sees corners and right-angled
 // junctions that lead nowhere, until the next load sets them right.
-void straightenRoadsAround(GameState& game, int x, int y) {
-  if (isRoad(game, x - 1, y) && isRoad(game, x - 1, y + 1) && isRoad(game, x - 1, y - 1) &&
-      !isRoad(game, x - 2, y)) {
-    setImage(game, x - 1, y, kRoadAlongY);
+void straightenRoadsAround(City& city, int x, int y) {
+  if (isRoad(city, x - 1, y) && isRoad(city, x - 1, y + 1) && isRoad(city, x - 1, y - 1) &&
+      !isRoad(city, x - 2, y)) {
+    setImage(city, x - 1, y, kRoadAlongY);
   }
-  if (isRoad(game, x, y - 1) && isRoad(game, x - 1, y - 1) && isRoad(game, x + 1, y - 1) &&
-      !isRoad(game, x, y - 2)) {
-    setImage(game, x, y - 1, kRoadAlongX);
+  if (isRoad(city, x, y - 1) && isRoad(city, x - 1, y - 1) && isRoad(city, x + 1, y - 1) &&
+      !isRoad(city, x, y - 2)) {
+    setImage(city, x, y - 1, kRoadAlongX);
   }
-  if (isRoad(game, x + 1, y) && isRoad(game, x + 1, y - 1) && isRoad(game, x + 1, y + 1) &&
-      !isRoad(game, x + 2, y)) {
-    setImage(game, x + 1, y, kRoadAlongY);
+  if (isRoad(city, x + 1, y) && isRoad(city, x + 1, y - 1) && isRoad(city, x + 1, y + 1) &&
+      !isRoad(city, x + 2, y)) {
+    setImage(city, x + 1, y, kRoadAlongY);
   }
-  if (isRoad(game, x, y + 1) && isRoad(game, x + 1, y + 1) && isRoad(game, x - 1, y + 1) &&
-      !isRoad(game, x, y + 2)) {
-    setImage(game, x, y + 1, kRoadAlongX);
+  if (isRoad(city, x, y + 1) && isRoad(city, x + 1, y + 1) && isRoad(city, x - 1, y + 1) &&
+      !isRoad(city, x, y + 2)) {
+    setImage(city, x, y + 1, kRoadAlongX);
   }
 }
 
-void shapeAllRoads(GameState& game) {
+void shapeAllRoads(City& city) {
   for (int y = 0; y <= core::kLastCell; ++y) {
     for (int x = 0; x <= core::kLastCell; ++x) {
-      if (isRoad(game, x, y)) setImage(game, x, y, roadImage(game, x, y));
-      game.cellDirty(x, y) = 1;
+      if (isRoad(city, x, y)) setImage(city, x, y, roadImage(city, x, y));
+      city.cellDirty(x, y) = 1;
     }
   }
 }

@@ -15,17 +15,9 @@ using core::GameState;
 // One more than the board: the last line may carry marks and is never drawn.
 constexpr int kLastScanned = core::kLastCell + 1;
 
-constexpr std::array<std::string_view, 6> kNames{"Normal view",   "Market access", "School access",
-                                                 "Tavern access", "Church access", "Doctor access"};
-
 /// The cells whose tall pictures can reach over a cell.
 constexpr std::array<core::CellOffset, 6> kInFront{
     {{0, 1}, {1, 0}, {1, 1}, {1, 2}, {2, 1}, {2, 2}}};
-
-/// The 2x2 building of service k, 1..4.
-const core::BlockDesign& blockOfService(int k) {
-  return core::blockOfTool(k + 1);
-}
 
 void setFlat(GameState& game, int x, int y, int image) {
   game.tileImage(x, y) = static_cast<std::int16_t>(image);
@@ -60,8 +52,9 @@ void restoreBuildings(GameState& game) {
       if (service == core::kDoctor) {
         setTall(game, x, y, core::kDoctorImage);
       } else if (service != 0) {
-        const core::BlockDesign& block = blockOfService(service);
-        const auto piece = static_cast<std::size_t>(code - block.firstCode);
+        const core::Building& building = core::buildingOfService(service);
+        const core::Look& block = building.look;
+        const auto piece = static_cast<std::size_t>(code - building.code);
         if (block.tall[piece] == 1) {
           setTall(game, x, y, block.images[piece]);
         } else {
@@ -76,7 +69,7 @@ void restoreBuildings(GameState& game) {
 
 /// Gives the building anchored at (x, y) its own pictures again and marks its cells.
 void showBlock(GameState& game, int x, int y, int service) {
-  const core::BlockDesign& block = blockOfService(service);
+  const core::Look& block = core::buildingOfService(service).look;
   for (std::size_t piece = 0; piece < core::kBlock.size(); ++piece) {
     const int cellX = x + core::kBlock[piece].x;
     const int cellY = y + core::kBlock[piece].y;
@@ -106,7 +99,7 @@ void colourByAccess(GameState& game, int view) {
         if (code == core::kDoctorCode) {
           setTall(game, x, y, core::kDoctorImage);
           game.cellDirty(x, y) = 1;
-        } else if (code == blockOfService(view).firstCode) {
+        } else if (code == core::buildingOfService(view).code) {
           showBlock(game, x, y, view);
         }
       } else if (core::isResidenceCode(code)) {
@@ -135,7 +128,7 @@ void applyOverlayView(Stage& stage) {
 }
 
 std::string_view viewName(int view) {
-  return kNames[static_cast<std::size_t>(view)];
+  return view == 0 ? "Normal view" : core::buildingOfService(view).access;
 }
 
 }  // namespace map

@@ -1,15 +1,13 @@
-// Placing a building at cellX, cellY: checks, cue, cells, price. Each returns false, with a message
-// on the banner and nothing else changed, when the place will not do.
+// Placing a building: checks, cue, cells, price.
 #pragma once
 
+#include "core/cell.h"
 #include "play/scene.h"
 
 namespace play {
 
-/// A 2x2 building, tool 1..5.
-bool placeBlock(Scene& scene, int tool);
-bool placeDoctor(Scene& scene);
-bool layRoad(Scene& scene);
-bool placeFarm(Scene& scene);
+/// Places a building with its anchor at `cell`. Returns false, with a message on the banner and nothing
+/// else changed, when the place will not do.
+bool place(Scene& scene, const core::Building& building, core::Cell cell);
 
 }  // namespace play

@@ -1,6 +1,6 @@
 #include "play/cursor.h"
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "core/vocabulary.h"
 #include "play/hover.h"
 #include "play/picking.h"

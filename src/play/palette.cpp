@@ -1,7 +1,7 @@
 #include "play/palette.h"
 
-#include "core/vocabulary.h"
-#include "sim/month_tick.h"
+#include "core/buildings.h"
+#include "core/number_text.h"
 
 namespace play {
 
@@ -10,6 +10,21 @@ namespace {
 void takeInHand(Scene& scene, int tool) {
   scene.game.currentTool = tool;
   markToolInHand(scene);
+}
+
+/// Takes a tool in hand that places or demolishes. Only what demolishes has no price.
+void takeForWork(Scene& scene, int tool) {
+  takeInHand(scene, tool);
+  const core::Building* building = core::buildingOfTool(tool);
+  platform::Text& current = scene.text(ui::buildcurrent);
+  current.assign("Current:");
+  current.append(building == nullptr ? "Demolish" : building->name);
+  if (building == nullptr) {
+    scene.text(ui::buildprice).assign("Price:-");
+  } else {
+    core::setCaption(scene.text(ui::buildprice), "Price:", building->price);
+  }
+  scene.game.cursorFootprint = building == nullptr ? 1 : building->side;
 }
 
 }  // namespace
@@ -22,12 +37,8 @@ void markToolInHand(Scene& scene) {
 
 void selectTool(Scene& scene, int index) {
   const int tool = index + 1;
-  const core::ToolDesign& design = core::toolDesign(tool);
   scene.cue(sound::kTool);
-  takeInHand(scene, tool);
-  scene.text(ui::buildcurrent).assign(design.current);
-  scene.text(ui::buildprice).assign(design.priceText);
-  scene.game.cursorFootprint = design.footprint;
+  takeForWork(scene, tool);
   scene.game.lastPaletteTool = tool;
 }
 
@@ -38,11 +49,8 @@ void enterBuildMode(Scene& scene) {
   scene.text(ui::Label4).assign("BUILD MODE");
   scene.text(ui::namlbl).clear();
   say(scene, "BUILD MODE SELECTED");
-  takeInHand(scene, core::kRoadTool);
-  scene.text(ui::buildcurrent).assign("Current:Road");
   scene.text(ui::buildsize).assign("Effect area:  ");
-  scene.text(ui::buildprice).assign("Price:5");
-  scene.game.cursorFootprint = 1;
+  takeForWork(scene, core::kRoadTool);
 }
 
 void enterInfoMode(Scene& scene) {
@@ -67,10 +75,10 @@ void resetPaletteAfterLoad(Scene& scene) {
 }
 
 void showUnlockedTools(Scene& scene) {
-  for (int n = 0; n < sim::kMilestones; ++n) {
-    const sim::Milestone& milestone = sim::milestone(n);
-    scene.form.setVisible(ui::Command1 + milestone.paletteIndex,
-                          scene.game.toolUnlocked[milestone.toolFlag] == 1);
+  for (const core::Building& building : core::kBuildings) {
+    if (building.unlocking.reached == nullptr) continue;
+    scene.form.setVisible(ui::Command1 + building.paletteKey(),
+                          scene.game.toolUnlocked[building.unlocking.toolFlag] == 1);
   }
 }
 

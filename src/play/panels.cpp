@@ -1,11 +1,10 @@
 #include "play/panels.h"
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "core/number_text.h"
 #include "map/views.h"
 #include "play/press.h"
-#include "sim/coverage.h"
-#include "sim/residences.h"
+#include "sim/rebuild.h"
 
 namespace play {
 
@@ -15,9 +14,7 @@ void changeTax(Scene& scene, double rate) {
   core::GameState& game = scene.game;
   game.taxRate = rate;
   core::setCaption(scene.text(ui::showtaxrate), "", game.taxRate);
-  sim::rebuildCoverage(game);
-  sim::rebuildCapacity(game);
-  sim::evolveResidences(game);
+  sim::rebuildCity(game, {});
   if (game.overlayView == 0) {
     redraw(scene);
     map::unmarkCells(game, 0, core::kLastCell);

@@ -1,31 +1,28 @@
 #include "play/press.h"
 
-#include "core/vocabulary.h"
 #include "play/build.h"
 #include "play/demolish.h"
 #include "play/info.h"
 #include "play/picking.h"
-#include "sim/coverage.h"
-#include "sim/residences.h"
+#include "sim/rebuild.h"
 
 namespace play {
 
 namespace {
 
-void closePress(Scene& scene, int tool, Hand hand) {
+void closePress(Scene& scene, int tool, core::Cell cell, User user) {
   core::GameState& game = scene.game;
-  const int x = game.cellX.whole();
-  const int y = game.cellY.whole();
-  sim::rebuildCoverage(game);
-  sim::floodServices(game, hand == Hand::player ? sim::FloodCause::press : sim::FloodCause::other);
-  sim::rebuildCapacity(game);
-  sim::evolveResidences(game);
+  sim::Rebuild steps{.flood = true};
+  // Deliberate: nobody looks at what was built. A road laid while the residence was the last tool of the
+  // palette is served like one.
+  if (user == User::player && game.lastPaletteTool == core::kResidenceTool) steps.placed = cell;
+  sim::rebuildCity(game, steps);
   if (tool != core::kRoadTool) {
-    for (const core::CellOffset& cell : core::kBlock) game.cellDirty(x + cell.x, y + cell.y) = 1;
+    for (const core::CellOffset& d : core::kBlock) game.cellDirty(cell.x + d.x, cell.y + d.y) = 1;
   }
   if (tool == core::kFarmTool) {
     for (int dy = 0; dy < 3; ++dy) {
-      for (int dx = 0; dx < 3; ++dx) game.cellDirty(x + dx, y + dy) = 1;
+      for (int dx = 0; dx < 3; ++dx) game.cellDirty(cell.x + dx, cell.y + dy) = 1;
     }
   }
   redrawAfterBuild(scene);
@@ -44,41 +41,37 @@ void redraw(Scene& scene) {
   map::DrawTiles2(scene.stage, map::kTallCells);
 }
 
-void useTool(Scene& scene, int tool, Hand hand) {
+void useTool(Scene& scene, int tool, core::Cell cell, User user) {
+  const core::Building* building = core::buildingOfTool(tool);
   bool done = false;
-  if (tool >= 1 && tool <= 5) {
-    done = placeBlock(scene, tool);
-  } else if (tool == core::kDoctorTool) {
-    done = placeDoctor(scene);
+  if (building != nullptr) {
+    done = place(scene, *building, cell);
   } else if (tool == core::kDemolishTool) {
-    done = demolish(scene);
-  } else if (tool == core::kRoadTool) {
-    done = layRoad(scene);
-  } else if (tool == core::kFarmTool) {
-    done = placeFarm(scene);
+    done = demolish(scene, cell);
   }
-  if (done) closePress(scene, tool, hand);
+  if (done) closePress(scene, tool, cell, user);
 }
 
 void pressMap(Scene& scene, double x, double y) {
   core::GameState& game = scene.game;
   pickCell(game, x, y);
   clampCell(game, scene.values);
+  const core::Cell cell{game.cellX.whole(), game.cellY.whole()};
   if (game.currentTool == core::kInfoTool) {
-    inspectCell(scene);
+    inspectCell(scene, cell);
     return;
   }
   if (game.overlayView != 0) {
     say(scene, "Switch to normal view first");
     return;
   }
-  // Asked for is one piece of gold, not the price: with 1 or more anything may be built, and the
+  // Deliberate: what is needed is one piece of gold, not the price: with 1 or more anything may be built, and the
   // treasury can go below zero by it.
   if (game.gold < 1 && game.currentTool != core::kDemolishTool) {
     say(scene, "You don't have enough money");
     return;
   }
-  useTool(scene, game.currentTool.whole(), Hand::player);
+  useTool(scene, game.currentTool.whole(), cell, User::player);
 }
 
 }  // namespace play

@@ -1,6 +1,7 @@
 // A press on the map: the one act by which the player changes the city.
 #pragma once
 
+#include "core/cell.h"
 #include "play/scene.h"
 
 namespace play {
@@ -9,10 +10,11 @@ namespace play {
 /// action; a refusal is one message, and changes nothing else.
 void pressMap(Scene& scene, double x, double y);
 
-/// What the press does once its cell stands in cellX, cellY and nothing forbids it: places or
-/// demolishes with tool 1..9. `cause` says whether a press of the player started it.
-enum class Hand { player, demonstration };
-void useTool(Scene& scene, int tool, Hand hand);
+/// Who uses a tool. A press of the player serves the residence just placed more kindly.
+enum class User { player, demonstration };
+/// What the press does once its cell is known and nothing forbids it: places or demolishes with tool
+/// 1..9.
+void useTool(Scene& scene, int tool, core::Cell cell, User user);
 
 /// Redraws the dirty cells and the tall ones, as after every build click and after the earthquake.
 void redrawAfterBuild(Scene& scene);

@@ -1,7 +1,7 @@
 #include "play/status_report.h"
 
 #include "core/number_text.h"
-#include "sim/month_tick.h"
+#include "sim/history.h"
 
 namespace play {
 
@@ -53,7 +53,7 @@ void openStatusReport(Scene& scene) {
   sim::writeHistory(scene.game, scene.values);
   fillStatusReport(scene);
   // The ratings come after the columns: what is shown of them is the last tick's.
-  sim::rateServices(scene.game);
+  sim::rateServices(scene.game, scene.game);
   scene.form.moveTo(ui::statusframe, 75, 85);
   scene.form.show(ui::statusframe);
   scene.form.hide(ui::Frame13);

@@ -1,11 +1,10 @@
 #include "play/tooltips.h"
 
+#include "core/buildings.h"
 #include "core/game_controls.h"
 #include "core/number_text.h"
-#include "core/vocabulary.h"
 #include "map/views.h"
 #include "play/preferences.h"
-#include "sim/coverage.h"
 
 namespace play {
 
@@ -76,16 +75,14 @@ std::string describeTool(int index, std::string_view name) {
   const int tool = index + 1;
   std::string text(name);
   if (tool == core::kDemolishTool) return text + ": costs nothing and pays nothing back";
-  const core::ToolDesign& design = core::toolDesign(tool);
-  append(text, ": ", design.price, " gold");
-  if (design.maintenance == 0) {
+  const core::Building& building = *core::buildingOfTool(tool);
+  append(text, ": ", building.price, " gold");
+  if (building.upkeep == 0) {
     text += ", no upkeep";
   } else {
-    append(text, "\nUpkeep ", design.maintenance, " gold a month");
+    append(text, "\nUpkeep ", building.upkeep, " gold a month");
   }
-  if (const int k = core::serviceOfTool(tool); k != 0) {
-    append(text, "\nReaches ", sim::reachOf(k), " cells each way");
-  }
+  if (building.reach != 0) append(text, "\nReaches ", building.reach, " cells each way");
   return text;
 }
 

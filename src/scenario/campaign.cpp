@@ -1,8 +1,9 @@
 #include "scenario/campaign.h"
 
+#include "core/missions.h"
 #include "core/number_text.h"
+#include "core/vocabulary.h"
 #include "platform/files.h"
-#include "scenario/missions.h"
 #include "scenario/outcome.h"
 #include "store/record.h"
 
@@ -11,19 +12,21 @@ namespace scenario {
 namespace {
 
 /// A tent, or the anchor cell of a house, is in sight anywhere.
-bool anyTentOrHouse(const core::GameState& game) {
+bool anyTentOrHouse(const core::City& city) {
   for (int y = 0; y <= core::kLastCell; ++y) {
     for (int x = 0; x <= core::kLastCell; ++x) {
-      if (game.tileImage(x, y) == 4 || game.tileImage(x, y) == 19) return true;
+      const int image = city.tileImage(x, y);
+      if (image == core::kTentImage || image == core::kHouse.images[0]) return true;
     }
   }
   return false;
 }
 
-bool allRatingsAtLeast(const core::GameState& game, double percent) {
-  return game.marketRating >= percent && game.schoolRating >= percent &&
-         game.tavernRating >= percent && game.churchRating >= percent &&
-         game.doctorRating >= percent;
+bool allRatingsAtLeast(const core::City& city, int percent) {
+  for (int k = 1; k <= core::kServices; ++k) {
+    if (core::rating(city, k) < percent) return false;
+  }
+  return true;
 }
 
 /// Brings "config.dat" up to the mission just reached.
@@ -55,7 +58,7 @@ void handCityOver(play::Scene& scene, const std::string& folder) {
   if (store::saveGame(path, scene.game, scene.values, message)) return;
   message += ".\nThis city could not be handed over. Mission ";
   message += core::NumberText(mission).view();
-  if (!goesOn(mission)) {
+  if (core::mission(mission).founds) {
     message += " founds a new one and does not need it.";
   } else if (platform::fileExists(path)) {
     message += " goes on with the city that was handed over before.";
@@ -67,39 +70,22 @@ void handCityOver(play::Scene& scene, const std::string& folder) {
 
 }  // namespace
 
-bool missionGoalMet(const core::GameState& game, int mission) {
-  switch (mission) {
-    case 1:
-      return game.food >= 1500 && game.population >= 500;
-    case 2:
-      return game.population >= 1000 && game.gold >= 2500 && game.churchRating >= 75;
-    case 3:
-      return game.population >= 1000 && game.food >= 2000 && game.gold >= 2000;
-    case 4:
-      return game.population >= 1000;
-    case 5:
-      return game.population >= 1500 && game.gold >= 6000;
-    case 6:
-      return game.population >= 1750 && game.food >= 1000 && game.gold >= 1000;
-    case 7:
-      return game.population >= 1000 && !anyTentOrHouse(game) && allRatingsAtLeast(game, 90);
-    case 8:
-      return game.population >= 1250 && !anyTentOrHouse(game) && allRatingsAtLeast(game, 100);
-    case 9:
-      return game.population >= 750;
-    case 10:
-      return game.population >= 1250;
-    default:
-      return false;
-  }
+bool missionGoalMet(const core::City& city, int mission) {
+  const core::Goal& goal = core::mission(mission).goal;
+  // A debt counts only where gold is asked for.
+  const auto reached = [](double has, int asked) { return asked == 0 || has >= asked; };
+  return reached(city.population, goal.people) && reached(city.food, goal.food) &&
+         reached(city.gold, goal.gold) && reached(city.churchRating, goal.religion) &&
+         (goal.ratings == 0 || allRatingsAtLeast(city, goal.ratings)) &&
+         (!goal.noTents || !anyTentOrHouse(city));
 }
 
 void checkMissionEnd(play::Scene& scene, store::ProgressKeeper& progress) {
   core::ProgramValues& values = scene.values;
   const int number = values.gMission.whole();
-  if (number < 1 || number > kCampaignWon) return;
-  if (number != kCampaignWon) {
-    const int year = mission(number).judgementYear;
+  if (number < core::kFirstMission || number > core::kCampaignWon) return;
+  if (number != core::kCampaignWon) {
+    const int year = core::mission(number).judgementYear;
     // The month counts too: who goes on playing a mission that was lost is not judged again.
     if (year == 0 || values.gYear != year || scene.game.month != 1) return;
     if (!missionGoalMet(scene.game, number)) {
@@ -109,7 +95,7 @@ void checkMissionEnd(play::Scene& scene, store::ProgressKeeper& progress) {
     values.gMission = number + 1;
   }
   raiseProgress(scene, progress);
-  if (values.gMission < kCampaignWon) handCityOver(scene, progress.folder());
+  if (values.gMission < core::kCampaignWon) handCityOver(scene, progress.folder());
   core::setCaption(scene.text(play::ui::pop1), "Population:", scene.game.population);
   endRun(scene, "MISSION COMPLETED", play::timer::Timer9);
 }

@@ -7,7 +7,7 @@
 namespace scenario {
 
 /// Whether everything that mission 1..10 asks for holds now.
-bool missionGoalMet(const core::GameState& game, int mission);
+bool missionGoalMet(const core::City& city, int mission);
 
 /// Judges the running mission where its time has come. A mission won raises "config.dat", hands the city
 /// over in a file, and goes back to the menu within a second; a mission lost goes back as well. A file

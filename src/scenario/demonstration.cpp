@@ -55,10 +55,11 @@ constexpr int kTicksPerMonth = 25;
 void runStep(play::Scene& scene, const Run& run) {
   core::GameState& game = scene.game;
   const int n = game.demoStep - run.first;
+  const core::Cell cell{run.x + n * run.dx, run.y + n * run.dy};
   game.demoTool = run.tool;
-  game.cellX = run.x + n * run.dx;
-  game.cellY = run.y + n * run.dy;
-  play::useTool(scene, game.demoTool, play::Hand::demonstration);
+  game.cellX = cell.x;
+  game.cellY = cell.y;
+  play::useTool(scene, run.tool, cell, play::User::demonstration);
 }
 
 }  // namespace

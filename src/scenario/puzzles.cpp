@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "core/number_text.h"
 #include "core/vocabulary.h"
 #include "scenario/outcome.h"
@@ -14,26 +14,6 @@ namespace {
 using play::Scene;
 namespace ui = play::ui;
 namespace timer = play::timer;
-using Kind = Puzzle::Kind;
-
-constexpr int kGoldYear = 1716;  // gold is counted when the first year is over
-
-// clang-format off
-constexpr std::array<Puzzle, 10> kTable{{
-    // row           side  gold   kind             goal
-    {"Mission 1",      4,  2000,  Kind::people,      60},
-    {"Mission 2",     10,  2000,  Kind::residences,  22},
-    {"Mission 3",      8,   300,  Kind::gold,      1600},
-    {"Mission 4",      6,  2000,  Kind::people,     200},
-    {"Mission 5",     10,  2000,  Kind::residences,  23},
-    {"Mission 6",      6,   300,  Kind::gold,      1050},
-    {"Mission 7",      8,  2000,  Kind::people,     450},
-    {"Mission 8",     10,  2000,  Kind::people,     900},
-    {"Mission 9",     10,  2000,  Kind::residences,  24},
-    {" Mission 10",    8,   300,  Kind::gold,      2000},
-}};
-// clang-format on
-
 void endLevel(Scene& scene, const char* outcome) {
   endRun(scene, outcome, timer::Timer15);
   scene.values.gReturnPuzzle = 1;
@@ -54,22 +34,22 @@ void noteSolved(Scene& scene, store::ProgressKeeper& keeper) {
 
 /// Tents on the map, counted by picture: a residence that has grown into a house counts no more, nor
 /// does one that an access view has recoloured.
-double countTents(core::GameState& game) {
-  game.scratchCount = 0;
+double countTents(const core::City& city, core::RecordNumbers& numbers) {
+  numbers.scratchCount = 0;
   for (int y = 0; y <= core::kLastCell; ++y) {
     for (int x = 0; x <= core::kLastCell; ++x) {
-      if (game.tileImage(x, y) == core::kTentImage) game.scratchCount += 1;
+      if (city.tileImage(x, y) == core::kTentImage) numbers.scratchCount += 1;
     }
   }
-  return game.scratchCount / 4;
+  return numbers.scratchCount / 4;
 }
 
-bool residencesPlaced(Scene& scene, const Puzzle& level) {
-  const double tents = countTents(scene.game);
+bool residencesPlaced(Scene& scene, const core::Puzzle& level) {
+  const double tents = countTents(scene.game, scene.game);
   // While buildings wait to be lost with their road, the strip stands still and nothing is solved.
   if (scene.timers.enabled(timer::Timer8)) return false;
   platform::Text& strip = scene.text(ui::Label18);
-  strip.assign(core::puzzleGoal(scene.values.gMission.whole()));
+  strip.assign(level.goalText);
   strip.append(" (current:");
   strip.append(core::NumberText(tents));
   strip.append(")");
@@ -78,12 +58,8 @@ bool residencesPlaced(Scene& scene, const Puzzle& level) {
 
 }  // namespace
 
-const Puzzle& puzzle(int mission) {
-  return kTable[static_cast<std::size_t>(mission - core::kFirstPuzzle)];
-}
-
 void writePuzzleGoal(Scene& scene) {
-  scene.text(ui::Label18).assign(core::puzzleGoal(scene.values.gMission.whole()));
+  scene.text(ui::Label18).assign(core::puzzle(scene.values.gMission.whole()).goalText);
 }
 
 void puzzleTick(Scene& scene, store::ProgressKeeper& progress) {
@@ -97,19 +73,19 @@ void puzzleTick(Scene& scene, store::ProgressKeeper& progress) {
     scene.form.moveTo(ui::Frame21, 100, 560);
     if (!scene.form[ui::Frame21].visible) scene.form.show(ui::Frame21);
   }
-  const Puzzle& level = puzzle(scene.values.gMission.whole());
+  const core::Puzzle& level = core::puzzle(scene.values.gMission.whole());
   bool solved = false;
   bool failed = false;
   switch (level.kind) {
-    case Kind::people:
+    case core::Puzzle::Kind::people:
       solved = game.population >= level.goal;
       break;
-    case Kind::residences:
+    case core::Puzzle::Kind::residences:
       solved = residencesPlaced(scene, level);
       break;
-    case Kind::gold:
-      solved = scene.values.gYear == kGoldYear && game.gold >= level.goal;
-      failed = scene.values.gYear == kGoldYear && !solved;
+    case core::Puzzle::Kind::gold:
+      solved = scene.values.gYear == core::kPuzzleGoldYear && game.gold >= level.goal;
+      failed = scene.values.gYear == core::kPuzzleGoldYear && !solved;
       break;
   }
   if (solved) {

@@ -6,17 +6,6 @@
 
 namespace scenario {
 
-struct Puzzle {
-  const char* row;  // in the list of levels
-  int mapSize;
-  double gold;  // at the start
-  enum class Kind { people, residences, gold } kind;
-  double goal;
-};
-
-/// Level of gMission 20..29.
-const Puzzle& puzzle(int mission);
-
 /// Writes the goal of the running level into the goal strip.
 void writePuzzleGoal(play::Scene& scene);
 

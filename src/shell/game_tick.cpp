@@ -2,19 +2,22 @@
 
 #include <cmath>
 
-#include "core/goals.h"
+#include "core/buildings.h"
+#include "core/missions.h"
 #include "core/number_text.h"
 #include "play/press.h"
 #include "play/scrolling.h"
 #include "play/status_report.h"
 #include "scenario/campaign.h"
-#include "scenario/missions.h"
 #include "shell/program.h"
 #include "shell/saved_games.h"
-#include "sim/coverage.h"
+#include "sim/calendar.h"
 #include "sim/disasters.h"
-#include "sim/month_tick.h"
-#include "sim/residences.h"
+#include "sim/food.h"
+#include "sim/history.h"
+#include "sim/population.h"
+#include "sim/rebuild.h"
+#include "sim/treasury.h"
 
 namespace shell {
 
@@ -25,11 +28,11 @@ namespace timer = play::timer;
 using play::Scene;
 
 void testMilestones(Scene& scene) {
-  for (int n = 0; n < sim::kMilestones; ++n) {
-    if (!sim::reachMilestone(scene.game, n)) continue;
-    const sim::Milestone& milestone = sim::milestone(n);
-    scene.form.show(ui::Command1 + milestone.paletteIndex);
-    scene.text(ui::bilgilabel).assign(milestone.notice);
+  for (const int service : sim::kMilestones) {
+    if (!sim::reachMilestone(scene.game, service)) continue;
+    const core::Building& building = core::buildingOfService(service);
+    scene.form.show(ui::Command1 + building.paletteKey());
+    core::writeUnlockNotice(scene.text(ui::bilgilabel), building);
     play::showNotice(scene);
   }
 }
@@ -39,16 +42,14 @@ void stepFamine(Scene& scene) {
   const sim::FamineStep step = sim::stepFamine(game);
   if (step.banner) play::say(scene, "Famine started,people leave your city!");
   if (!step.rebuild) return;
-  sim::rebuildCoverage(game);
-  sim::rebuildCapacity(game);
-  sim::evolveResidences(game);
+  sim::rebuildCity(game, {});
   if (game.overlayView != 0) return;
   play::redraw(scene);
   map::unmarkCells(game, 0, core::kLastCell);
 }
 
 void startEarthquake(Scene& scene) {
-  sim::beginEarthquake(scene.game);
+  sim::beginEarthquake(scene.game, scene.game);
   scene.timers.enable(timer::Timer12);
   play::say(scene, "EARTHQUAKE!!!");
 }
@@ -110,11 +111,11 @@ void gameTick(GameScreen& screen) {
   sim::moveMoney(game);
   sim::writeHistory(game, values);
   if (scene.form[ui::statusframe].visible) play::fillStatusReport(scene);
-  sim::rateServices(game);
+  sim::rateServices(game, game);
   game.tickOfMonth += 1;
   if (game.quakeReportPending == 1) reportEarthquake(scene);
-  if (values.gMission == 10 && scenario::missionGoalMet(game, 10)) {
-    values.gMission = scenario::kCampaignWon;
+  if (values.gMission == core::kLastMission && scenario::missionGoalMet(game, core::kLastMission)) {
+    values.gMission = core::kCampaignWon;
     scenario::checkMissionEnd(scene, screen.program().progress());
   }
 }
@@ -133,10 +134,7 @@ void shakeTick(GameScreen& screen) {
   play::placeMap(scene);
   if (!over) return;
   sim::collapse(game, screen.random());
-  sim::rebuildCoverage(game);
-  sim::floodServices(game, sim::FloodCause::other);
-  sim::rebuildCapacity(game);
-  sim::evolveResidences(game);
+  sim::rebuildCity(game, {.flood = true});
   map::markCells(game, 0, core::kLastCell);
   play::redrawAfterBuild(scene);
   map::unmarkCells(game, 0, core::kLastCell);
@@ -148,8 +146,7 @@ void roadLossTick(GameScreen& screen) {
   Scene& scene = screen.scene();
   core::GameState& game = scene.game;
   sim::removeBuildingsWithoutRoad(game);
-  sim::rebuildCoverage(game);
-  sim::rebuildCapacity(game);
+  sim::rebuildCity(game, {.evolve = false});
   if (game.overlayView == 0) play::redraw(scene);
   scene.timers.disable(timer::Timer8);
 }

@@ -1,7 +1,8 @@
 #include "shell/menu_campaign.h"
 
+#include "core/missions.h"
 #include "core/number_text.h"
-#include "scenario/missions.h"
+#include "scenario/letters.h"
 #include "shell/program.h"
 
 namespace shell {
@@ -22,20 +23,20 @@ bool isClosed(MenuScreen& menu, int row) {
 }
 
 void clearRowBorders(MenuScreen& menu) {
-  for (int k = 0; k < scenario::kMissions; ++k) menu.form()[ui::Label6 + k].border = false;
+  for (int k = 0; k < core::kMissions; ++k) menu.form()[ui::Label6 + k].border = false;
 }
 
 /// Shows the list of missions, a lock beside those that are still closed.
 void showList(MenuScreen& menu) {
   const platform::Surface* lock = menu.program().services().assets.images.find(kLockImage);
-  for (int k = 0; k < scenario::kMissions; ++k) {
+  for (int k = 0; k < core::kMissions; ++k) {
     menu.form()[ui::Label6 + k].image = isClosed(menu, k) ? lock : nullptr;
   }
   menu.showPanel(ui::campaign);
 }
 
 void writeBriefing(MenuScreen& menu, int mission, LetterSet set) {
-  if (mission == scenario::kCampaignWon) {
+  if (mission == core::kCampaignWon) {
     menu.text(ui::Frame1).assign("CONGRATULATIONS");
   } else {
     core::setCaption(menu.text(ui::Frame1), "MISSION ", mission);
@@ -56,7 +57,7 @@ void showMissions(MenuScreen& menu) {
 void hoverMission(MenuScreen& menu, int row) {
   clearRowBorders(menu);
   menu.form()[ui::Label6 + row].border = true;
-  const scenario::Mission& mission = scenario::mission(row + 1);
+  const core::Mission& mission = core::mission(row + 1);
   menu.text(ui::difflbl).assign(mission.difficulty);
   menu.text(ui::mapsizelbl).assign(mission.mapSizeText);
   menu.text(ui::fertilelbl).assign(mission.fertilityText);
@@ -101,11 +102,11 @@ void cancelBriefing(MenuScreen& menu) {
 void playMission(MenuScreen& menu) {
   core::ProgramValues& values = menu.values();
   menu.cue(sound::kClick);
-  if (values.selectedMission >= scenario::kMissions) return;  // the closing text
-  const scenario::Mission& mission = scenario::mission(values.selectedMission + 1);
+  if (values.selectedMission >= core::kMissions) return;  // the closing text
+  const core::Mission& mission = core::mission(values.selectedMission + 1);
   values.gMapSize = mission.mapSize;
   values.gFertility = mission.fertility;
-  values.gMission = mission.number;
+  values.gMission = values.selectedMission + 1;
   values.gYear = mission.startYear;
   menu.form().hide(ui::Framecpgn);
   menu.showPanel(ui::lblloading);

@@ -1,7 +1,6 @@
 #include "shell/menu_controls.h"
 
 #include "core/control_rows.h"
-#include "scenario/missions.h"
 #include "scenario/puzzles.h"
 
 namespace shell {

@@ -1,6 +1,6 @@
 #include "shell/menu_puzzles.h"
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "scenario/puzzles.h"
 #include "shell/menu_start.h"
 
@@ -39,7 +39,7 @@ void clickPuzzle(MenuScreen& menu, int row) {
   values.gMission = core::kFirstPuzzle + row;
   values.gYear = 1715;
   menu.form().hide(ui::Frame15);
-  values.gMapSize = scenario::puzzle(values.gMission.whole()).mapSize;
+  values.gMapSize = core::puzzle(values.gMission.whole()).mapSize;
   openNewGame(menu);
 }
 

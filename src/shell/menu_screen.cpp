@@ -1,7 +1,6 @@
 #include "shell/menu_screen.h"
 
-#include "core/goals.h"
-#include "scenario/missions.h"
+#include "core/missions.h"
 #include "scenario/open_play.h"
 #include "scenario/puzzles.h"
 #include "shell/display_mode.h"
@@ -17,11 +16,11 @@ MenuScreen::MenuScreen(Program& program)
     : Screen(menuControls(), kMenuBackground, menu_timer::kTimers, program.services().assets.images,
              program.services().clock),
       program_(program) {
-  for (int k = 0; k < scenario::kMissions; ++k) {
-    text(ui::Label6 + k).assign(scenario::mission(k + 1).row);
+  for (int k = 0; k < core::kMissions; ++k) {
+    text(ui::Label6 + k).assign(core::mission(k + 1).row);
   }
   for (int k = 0; k < 10; ++k) {
-    text(ui::Label20 + k).assign(scenario::puzzle(core::kFirstPuzzle + k).row);
+    text(ui::Label20 + k).assign(core::puzzle(core::kFirstPuzzle + k).row);
   }
   for (const int box : {ui::Check1, ui::Check5, ui::Check8}) form()[box].checked = true;
 }

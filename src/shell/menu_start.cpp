@@ -1,6 +1,6 @@
 #include "shell/menu_start.h"
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "core/number_text.h"
 #include "scenario/open_play.h"
 #include "shell/display_mode.h"

@@ -1,11 +1,11 @@
 #include "shell/opening.h"
 
-#include "core/goals.h"
+#include "core/buildings.h"
+#include "core/missions.h"
 #include "core/new_game.h"
 #include "core/number_text.h"
 #include "map/ground.h"
 #include "play/palette.h"
-#include "scenario/missions.h"
 #include "scenario/puzzles.h"
 #include "shell/program.h"
 #include "shell/saved_games.h"
@@ -21,17 +21,16 @@ using play::Scene;
 
 /// Money of the modes that do not ask the money choice.
 void setGoldOfMode(Scene& scene) {
-  if (scene.values.gMission == 1) scene.game.gold = 400;
-  if (scene.values.gMission == 4) scene.game.gold = 800;
-  if (scene.values.gMission == 7) scene.game.gold = 600;
-  if (scene.values.gMission == core::kDemonstration) scene.game.gold = 1000;
+  const core::Mission* mission = core::missionOf(scene.values.gMission);
+  if (mission != nullptr && mission->gold != 0) scene.game.gold = mission->gold;
+  if (scene.values.gMission == core::kDemonstration) scene.game.gold = core::kDemonstrationGold;
 }
 
 void startDemonstration(Scene& scene) {
   scene.form.hide(ui::Frame6);
   scene.timers.enable(timer::Timer13);
   scene.game.demoStep = 0;
-  scene.game.currentTool = 10;
+  scene.game.currentTool = core::kInfoTool;
   play::hideCursor(scene);
   scene.form.moveTo(ui::Frame20, 623, 0);
 }
@@ -50,24 +49,21 @@ void drawNewMap(GameScreen& screen) {
 bool continueCity(GameScreen& screen) {
   Scene& scene = screen.scene();
   core::ProgramValues& values = scene.values;
-  if (!(values.gMission < core::kOpenPlay) || values.gContinueMission != 1 ||
-      !scenario::goesOn(values.gMission)) {
-    return true;
-  }
+  const core::Mission* mission = core::missionOf(values.gMission);
+  if (mission == nullptr || mission->founds || values.gContinueMission != 1) return true;
   play::hideCursor(scene);
-  const int mission = values.gMission.whole();
   std::string error;
-  const auto record = store::readGame(screen.folder() + "/" + store::handOverFile(mission), error);
+  const std::string path = screen.folder() + "/" + store::handOverFile(values.gMission.whole());
+  const auto record = store::readGame(path, error);
   if (record == nullptr) {
     scene.desk.showBox("Error", error);
     return false;
   }
   store::applyRecord(*record, scene.game, values);
   rebuildLoadedCity(screen);
-  const scenario::HandOver payment = scenario::handOver(mission);
-  scene.game.food -= payment.food;
-  scene.game.gold -= payment.gold;
-  if (payment.year != 0) values.gYear = payment.year;
+  scene.game.food -= mission->handOver.food;
+  scene.game.gold -= mission->handOver.gold;
+  if (mission->handOver.year != 0) values.gYear = mission->handOver.year;
   scene.game.month = 1;
   core::clearHistory(scene.game);
   values.gContinueMission = 0;
@@ -77,14 +73,15 @@ bool continueCity(GameScreen& screen) {
 void startNewGame(GameScreen& screen) {
   Scene& scene = screen.scene();
   core::ProgramValues& values = scene.values;
-  const double mission = values.gMission;
-  if (mission == 1 || mission == 4 || mission == 7 || mission == 9) values.gNewMap = 1;
+  const double mode = values.gMission;
+  const core::Mission* mission = core::missionOf(mode);
+  if (mission != nullptr && mission->founds) values.gNewMap = 1;
   if (values.gNewMap != 1) return;
 
   core::resetGame(scene.game, values);
   play::markToolInHand(scene);
-  if (core::isPuzzle(mission)) {
-    scene.game.gold = scenario::puzzle(values.gMission.whole()).gold;
+  if (core::isPuzzle(mode)) {
+    scene.game.gold = core::puzzle(values.gMission.whole()).gold;
     scene.timers.enable(timer::Timer14);
     scenario::writePuzzleGoal(scene);
   }
@@ -97,7 +94,7 @@ void startNewGame(GameScreen& screen) {
   drawNewMap(screen);
   values.gNewMap = 0;
   setGoldOfMode(scene);
-  if (mission == core::kDemonstration) startDemonstration(scene);
+  if (mode == core::kDemonstration) startDemonstration(scene);
 }
 
 void prepareLoadScreen(GameScreen& screen) {

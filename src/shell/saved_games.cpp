@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "core/new_game.h"
 #include "core/number_text.h"
 #include "map/ground.h"

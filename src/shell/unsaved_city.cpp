@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "core/goals.h"
+#include "core/missions.h"
 #include "shell/program.h"
 #include "store/record.h"
 

@@ -5,25 +5,21 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/vocabulary.h"
+#include "core/buildings.h"
 
 namespace sim {
 
 namespace {
 
 using core::CellGrid;
+using core::City;
 using core::Flag;
-using core::GameState;
-using core::kLastCell;
 using core::kServices;
 
 // Effect areas are worked out for these cells both ways, capacity for the cells 0 .. 31.
 constexpr int kFirstCoveredCell = -5;
 constexpr int kLastCoveredCell = 35;
 constexpr int kLastHousingCell = 31;
-
-// How far a cell of a building reaches, by service 1..5.
-constexpr std::array<int, kServices> kReach{5, 6, 4, 5, 4};
 
 // The cells of one grid, a bit for each: bit x - kLowX of entry y - kLowY.
 constexpr int kLow = CellGrid<Flag>::kLowX;
@@ -50,24 +46,20 @@ Cells squaresAround(const Cells& cells, int reach) {
 
 }  // namespace
 
-int reachOf(int service) {
-  return kReach[static_cast<std::size_t>(service - 1)];
-}
-
-void rebuildCoverage(GameState& game) {
+void rebuildCoverage(City& city) {
   for (int k = 1; k <= kServices; ++k) {
-    core::coverGrid(game, k).fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
+    core::coverGrid(city, k).fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
   }
-  game.cellCapacity.fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
-  game.cellServices.fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
-  game.housingCapacity = 0;
+  city.cellCapacity.fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
+  city.cellServices.fillSquare(kFirstCoveredCell, kLastCoveredCell, 0);
+  city.housingCapacity = 0;
 
   // Each cell of a building casts a square of its own. Rows of bits make that cheap enough to be
   // done in every press.
   std::array<Cells, kServices> sources{};
   for (int y = kFirstCoveredCell; y <= kLastCoveredCell; ++y) {
     for (int x = kFirstCoveredCell; x <= kLastCoveredCell; ++x) {
-      const int k = core::serviceOfCode(game.tileCode(x, y));
+      const int k = core::serviceOfCode(city.tileCode(x, y));
       if (k == 0) continue;
       sources[static_cast<std::size_t>(k - 1)][static_cast<std::size_t>(y - kLow)] |=
           std::uint64_t{1} << (x - kLow);
@@ -75,8 +67,8 @@ void rebuildCoverage(GameState& game) {
   }
   for (int k = 1; k <= kServices; ++k) {
     const auto service = static_cast<std::size_t>(k - 1);
-    const Cells covered = squaresAround(sources[service], reachOf(k));
-    CellGrid<Flag>& cover = core::coverGrid(game, k);
+    const Cells covered = squaresAround(sources[service], core::buildingOfService(k).reach);
+    CellGrid<Flag>& cover = core::coverGrid(city, k);
     for (int y = kLow; y <= kHigh; ++y) {
       std::uint64_t line = covered[static_cast<std::size_t>(y - kLow)];
       for (; line != 0; line &= line - 1) cover(kLow + std::countr_zero(line), y) = 1;
@@ -84,39 +76,34 @@ void rebuildCoverage(GameState& game) {
   }
 }
 
-void rebuildCapacity(GameState& game) {
-  double housing = game.housingCapacity;
+void rebuildCapacity(City& city) {
+  double housing = city.housingCapacity;
   for (int y = 0; y <= kLastHousingCell; ++y) {
     for (int x = 0; x <= kLastHousingCell; ++x) {
       int services = 0;
-      for (int k = 1; k <= kServices; ++k) services += game.cellService[k](x, y);
-      game.cellServices(x, y) = services;
+      for (int k = 1; k <= kServices; ++k) services += city.cellService[k](x, y);
+      city.cellServices(x, y) = services;
 
       double capacity = 0;
-      if (core::isResidenceCode(game.tileCode(x, y))) {
-        capacity = (2 * services + 2) * (1 + (15 - game.taxRate) / 50);
-        if (game.food <= 0 && capacity >= 4) capacity = 4;
+      if (core::isResidenceCode(city.tileCode(x, y))) {
+        capacity = (2 * services + 2) * (1 + (15 - city.taxRate) / 50);
+        if (city.food <= 0 && capacity >= 4) capacity = 4;
         housing += capacity;
       }
-      game.cellCapacity(x, y) = capacity;
+      city.cellCapacity(x, y) = capacity;
     }
   }
-  game.housingCapacity = std::floor(housing);
+  city.housingCapacity = std::floor(housing);
 }
 
-void markObjectCells(GameState& game) {
+void markObjectCells(City& city) {
   for (int y = 0; y <= kLastHousingCell; ++y) {
     for (int x = 0; x <= kLastHousingCell; ++x) {
-      const int code = game.tileCode(x, y);
+      const int code = city.tileCode(x, y);
       // The nearest cell of a block is flat ground in its picture.
-      if (core::serviceOfCode(code) != 0 && code % 10 != 4) game.cellTall(x, y) = 1;
+      if (core::serviceOfCode(code) != 0 && code % 10 != 4) city.cellTall(x, y) = 1;
     }
   }
-}
-
-void clearLayer(GameState& game, int k) {
-  game.roadService[k].fillSquare(0, kLastCell, 0);
-  game.cellService[k].fillSquare(0, kLastCell, 0);
 }
 
 }  // namespace sim

@@ -1,141 +1,124 @@
 #include "sim/disasters.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
-#include "core/vocabulary.h"
-#include "sim/coverage.h"
+#include "core/cell.h"
+#include "core/missions.h"
+#include "sim/flood.h"
 
 namespace sim {
 
 namespace {
 
-using core::CellOffset;
-using core::GameState;
+using core::City;
 using core::kLastCell;
 using core::ProgramValues;
 
 constexpr int kShakePixels = 32;
 constexpr int kShakeTicks = 60;
-constexpr int kLastImageCell = decltype(GameState::tileImage)::kHighX;
-
-// Leaves bare ground on every cell of a building within `reach` cells of one of its cells. The
-// cells keep their building id. Cells beyond the pictures hold nothing that could be cleared.
-void clearBuilding(GameState& game, int x, int y, int reach) {
-  const double id = game.buildingId(x, y);
-  for (int b = std::max(y - reach, 0); b <= std::min(y + reach, kLastImageCell); ++b) {
-    for (int a = std::max(x - reach, 0); a <= std::min(x + reach, kLastImageCell); ++a) {
-      if (game.buildingId(a, b) != id) continue;
-      game.tileCode(a, b) = core::kEmptyCode;
-      game.tileImage(a, b) = core::kGroundImage;
-      game.cellTall(a, b) = 0;
-      game.cellDirty(a, b) = 1;
-    }
-  }
+bool strikes(const core::Strike& strike, const City& city, const ProgramValues& values) {
+  return strike.month != 0 && city.month == strike.month &&
+         (strike.year == 0 || values.gYear == strike.year);
 }
 
-bool isAnchorOfBlock(int code) {
-  return code == core::kResidenceCode || code == core::kMarketCode || code == core::kSchoolCode ||
-         code == core::kTavernCode || code == core::kChurchCode;
+// Roads and farms need no road.
+bool needsRoad(int code) {
+  const core::Building* building = core::buildingOfCode(code);
+  return building != nullptr && building->code == code && code != core::kRoadCode &&
+         !core::isFarmCode(code);
 }
 
-template <class Offsets>
-bool roadAt(const GameState& game, int x, int y, const Offsets& offsets) {
-  return std::any_of(offsets.begin(), offsets.end(), [&](CellOffset cell) {
-    return game.tileCode(x + cell.x, y + cell.y) == core::kRoadCode;
-  });
-}
-
-// A building that needs a road and has none, told by its anchor. Farms need none.
-bool isCutOff(const GameState& game, int x, int y) {
-  const int code = game.tileCode(x, y);
-  return (isAnchorOfBlock(code) || code == core::kDoctorCode) && !hasRoad(game, x, y);
+// A building that needs a road and has none, seen from its anchor.
+bool isCutOff(const City& city, int x, int y) {
+  return needsRoad(city.tileCode(x, y)) && !hasRoad(city, x, y);
 }
 
 }  // namespace
 
-bool earthquakeDue(const GameState& game, const ProgramValues& values) {
-  return values.gMission == 3 && game.month == 3;
+bool earthquakeDue(const City& city, const ProgramValues& values) {
+  const core::Mission* mission = core::missionOf(values.gMission);
+  return mission != nullptr && strikes(mission->earthquake, city, values);
 }
 
-void beginEarthquake(GameState& game) {
-  game.quakeShakePhase = 0;
-  game.quakeShakeTicks = 0;
-  game.populationBeforeQuake = game.population;
+void beginEarthquake(core::Earthquake& quake, const City& city) {
+  quake.quakeShakePhase = 0;
+  quake.quakeShakeTicks = 0;
+  quake.populationBeforeQuake = city.population;
 }
 
-bool shake(GameState& game) {
-  ++game.quakeShakePhase;
-  ++game.quakeShakeTicks;
-  if (game.quakeShakePhase == 2) game.quakeShakePhase = 0;
-  return game.quakeShakeTicks >= kShakeTicks;
+bool shake(core::Earthquake& quake) {
+  ++quake.quakeShakePhase;
+  ++quake.quakeShakeTicks;
+  if (quake.quakeShakePhase == 2) quake.quakeShakePhase = 0;
+  return quake.quakeShakeTicks >= kShakeTicks;
 }
 
-int shakeOffset(const GameState& game) {
-  return game.quakeShakePhase == 1 ? -kShakePixels : 0;
+int shakeOffset(const core::Earthquake& quake) {
+  return quake.quakeShakePhase == 1 ? -kShakePixels : 0;
 }
 
-void collapse(GameState& game, platform::Random& random) {
+void collapse(City& city, platform::Random& random) {
   std::array<bool, core::kServices + 1> cleared{};
   for (int y = 0; y <= kLastCell; ++y) {
     for (int x = 0; x <= kLastCell; ++x) {
-      const int code = game.tileCode(x, y);
+      const int code = city.tileCode(x, y);
       if (code == core::kEmptyCode || code == core::kRoadCode || core::isFarmCode(code)) continue;
       // A layer is cleared for a building that stands as well as for one that falls: the flood that
       // follows refills it, but over long roads only as far as one flood carries.
       const int k = core::serviceOfCode(code);
       if (k != 0 && !cleared[static_cast<std::size_t>(k)]) {
-        clearLayer(game, k);
+        clearLayer(city, k);
         cleared[static_cast<std::size_t>(k)] = true;
       }
       // Every cell draws until one brings its building down: the larger the building, the sooner.
       const double draw = std::floor(10 * random.uniform() + 1);
-      if (draw == 1) clearBuilding(game, x, y, 1);
+      if (draw == 1) core::clearBuilding(city, {x, y}, 1);
     }
   }
 }
 
-void endEarthquake(GameState& game) {
-  game.quakeReportPending = 1;
-  game.quakeShakeTicks = 0;
+void endEarthquake(core::Earthquake& quake) {
+  quake.quakeReportPending = 1;
+  quake.quakeShakeTicks = 0;
 }
 
-bool theftDue(const GameState& game, const ProgramValues& values) {
-  return values.gMission == 2 && values.gYear == 1718 && game.month == 2;
+bool theftDue(const City& city, const ProgramValues& values) {
+  const core::Mission* mission = core::missionOf(values.gMission);
+  return mission != nullptr && strikes(mission->theft, city, values);
 }
 
-double steal(GameState& game) {
-  const double stolen = std::floor(game.gold * 0.25);
-  game.gold = std::floor(game.gold * 0.75);
+double steal(City& city) {
+  const double stolen = std::floor(city.gold * 0.25);
+  city.gold = std::floor(city.gold * 0.75);
   return stolen;
 }
 
-bool hasRoad(const GameState& game, int x, int y) {
-  const int code = game.tileCode(x, y);
-  if (code == core::kDoctorCode) return roadAt(game, x, y, core::kNeighbours);
-  return isAnchorOfBlock(code) && roadAt(game, x, y, core::kRingOfBlock);
+bool hasRoad(const City& city, int x, int y) {
+  const int code = city.tileCode(x, y);
+  if (!needsRoad(code)) return false;
+  const bool block = core::buildingOfCode(code)->side == 2;
+  return block ? core::touchesRoad(city, {x, y}, core::kRingOfBlock)
+               : core::touchesRoad(city, {x, y}, core::kNeighbours);
 }
 
-bool anyBuildingWithoutRoad(const GameState& game) {
+bool anyBuildingWithoutRoad(const City& city) {
   for (int y = 0; y <= kLastCell; ++y) {
     for (int x = 0; x <= kLastCell; ++x) {
-      if (isCutOff(game, x, y)) return true;
+      if (isCutOff(city, x, y)) return true;
     }
   }
   return false;
 }
 
-void removeBuildingsWithoutRoad(GameState& game) {
+void removeBuildingsWithoutRoad(City& city) {
   for (int y = 0; y <= kLastCell; ++y) {
     for (int x = 0; x <= kLastCell; ++x) {
-      if (!isCutOff(game, x, y)) continue;
+      if (!isCutOff(city, x, y)) continue;
       // Wide enough for every building, with the cells that its picture overlaps.
       constexpr int kReach = 3;
-      clearBuilding(game, x, y, kReach);
-      for (int b = y - kReach; b <= y + kReach; ++b) {
-        for (int a = x - kReach; a <= x + kReach; ++a) game.cellDirty(a, b) = 1;
-      }
+      core::clearBuilding(city, {x, y}, kReach);
+      core::markAround(city, {x, y}, kReach);
     }
   }
 }

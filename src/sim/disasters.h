@@ -1,4 +1,4 @@
-// What strikes the city: the earthquake of mission 3, the theft of mission 2, and the loss of
+// What strikes the city: earthquake and theft in the missions that have them, and the loss of
 // buildings that a demolished road has cut off.
 #pragma once
 
@@ -8,31 +8,31 @@
 namespace sim {
 
 /// Whether the month that just began brings the earthquake.
-bool earthquakeDue(const core::GameState& game, const core::ProgramValues& values);
+bool earthquakeDue(const core::City& city, const core::ProgramValues& values);
 /// Begins the shake. The caller switches Timer12 on and shows "EARTHQUAKE!!!".
-void beginEarthquake(core::GameState& game);
+void beginEarthquake(core::Earthquake& quake, const core::City& city);
 /// One tick of the shake. True when it is over and the collapse follows.
-bool shake(core::GameState& game);
+bool shake(core::Earthquake& quake);
 /// How far the shake holds the picture from its place now, in pixels to the right.
-int shakeOffset(const core::GameState& game);
+int shakeOffset(const core::Earthquake& quake);
 /// Brings buildings down; each standing cell of a building has one chance in ten. Clears the layers of
 /// the services that still have a standing cell when the scan comes to it. No rebuild: the caller
-/// runs the four rebuilds, marks all cells, redraws, and calls endEarthquake.
-void collapse(core::GameState& game, platform::Random& random);
-void endEarthquake(core::GameState& game);
+/// rebuilds with a flood, marks all cells, redraws, and calls endEarthquake.
+void collapse(core::City& city, platform::Random& random);
+void endEarthquake(core::Earthquake& quake);
 
 /// Whether the month that just began brings the theft.
-bool theftDue(const core::GameState& game, const core::ProgramValues& values);
+bool theftDue(const core::City& city, const core::ProgramValues& values);
 /// Takes a quarter of the gold; returns the amount to report, floor(gold * 0.25).
-double steal(core::GameState& game);
+double steal(core::City& city);
 
 /// Whether any building but farms has lost its road.
-bool anyBuildingWithoutRoad(const core::GameState& game);
+bool anyBuildingWithoutRoad(const core::City& city);
 /// Whether the building with its anchor (or the doctor) at (x, y) stands beside a road. False also
 /// for a cell that is neither an anchor nor a doctor.
-bool hasRoad(const core::GameState& game, int x, int y);
+bool hasRoad(const core::City& city, int x, int y);
 /// Removes every building without road: codes, images and tall flags of its cells; the 7x7 cells
 /// around each are marked dirty.
-void removeBuildingsWithoutRoad(core::GameState& game);
+void removeBuildingsWithoutRoad(core::City& city);
 
 }  // namespace sim

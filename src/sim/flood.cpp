@@ -1,26 +1,25 @@
-// The flood of services along the roads.
-//
-// It is worked out in place, cell by cell, and what a pass sets is seen by the cells scanned after
-// it: within one pass a service runs any distance toward higher x and y, and a single cell toward
-// lower x or y. Services do not know of one another, so the five flags of a cell are walked as five
-// bits.
+#include "sim/flood.h"
+
 #include <array>
 #include <cstdint>
 
-#include "core/vocabulary.h"
-#include "sim/coverage.h"
+#include "core/buildings.h"
 
+// The flood is worked out in place, cell by cell, and what a pass sets is seen by the cells scanned after
+// it: within one pass a service runs any distance toward higher x and y, and a single cell toward
+// lower x or y. Services do not know of one another, so the five flags of a cell are walked as five
+// bits.
 namespace sim {
 
 namespace {
 
 using core::CellOffset;
-using core::GameState;
+using core::City;
 using core::kLastCell;
 using core::kServices;
 
-// A press with a long road against the scan takes several floods until the far end is served. That
-// is wanted: the player sees a service creep on with each further press.
+// A press with a long road against the scan takes several floods until the far end is served. Deliberate:
+// the player sees a service creep on with each further press.
 constexpr int kPasses = 12;
 
 constexpr unsigned bitOf(int k) {
@@ -75,21 +74,19 @@ void giveBack(const Bits& before, const Bits& after, core::LayerGrids<core::Flag
 // Serves the block that a press has just placed: one covered cell is enough here, wherever the road
 // touches, while the passes ask for the very cell beside the road. Nobody asks what stands on the
 // block: a road laid while the residence was the last tool of the palette runs this too.
-void servePlacedBlock(GameState& game) {
-  const int left = game.cellX.whole();
-  const int top = game.cellY.whole();
+void servePlacedBlock(City& city, core::Cell anchor) {
   for (int k = 1; k <= kServices; ++k) {
     bool roadCarries = false;
     for (const CellOffset ring : core::kRingOfBlock) {
-      if (game.roadService[k](left + ring.x, top + ring.y) == 1) roadCarries = true;
+      if (city.roadService[k](anchor.x + ring.x, anchor.y + ring.y) == 1) roadCarries = true;
     }
     bool covered = false;
     for (const CellOffset cell : core::kBlock) {
-      if (core::coverGrid(game, k)(left + cell.x, top + cell.y) == 1) covered = true;
+      if (core::coverGrid(city, k)(anchor.x + cell.x, anchor.y + cell.y) == 1) covered = true;
     }
     if (!roadCarries || !covered) continue;
     for (const CellOffset cell : core::kBlock) {
-      game.cellService[k](left + cell.x, top + cell.y) = 1;
+      city.cellService[k](anchor.x + cell.x, anchor.y + cell.y) = 1;
     }
   }
 }
@@ -103,23 +100,23 @@ unsigned facing(int code, int oneCell, int otherCell) {
   return k == core::kDoctor || cell == oneCell || cell == otherCell ? bitOf(k) : 0;
 }
 
-unsigned servicesBeside(const GameState& game, int x, int y) {
-  return facing(game.tileCode(x - 1, y), 2, 4) | facing(game.tileCode(x, y - 1), 3, 4) |
-         facing(game.tileCode(x + 1, y), 1, 3) | facing(game.tileCode(x, y + 1), 1, 2);
+unsigned servicesBeside(const City& city, int x, int y) {
+  return facing(city.tileCode(x - 1, y), 2, 4) | facing(city.tileCode(x, y - 1), 3, 4) |
+         facing(city.tileCode(x + 1, y), 1, 3) | facing(city.tileCode(x, y + 1), 1, 2);
 }
 
 // Hands what a residence cell has to the cells around it that belong to the same building. What it
 // handed on before, its neighbours still have. Says whether anything was added.
-bool handOn(const GameState& game, Network& net, int x, int y) {
+bool handOn(const City& city, Network& net, int x, int y) {
   const unsigned services = net.served[at(x, y)];
   if (services == net.handedOn[at(x, y)]) return false;
   net.handedOn[at(x, y)] = static_cast<std::uint8_t>(services);
-  const double id = game.buildingId(x, y);
+  const double id = city.buildingId(x, y);
   bool added = false;
   for (int b = -1; b <= 1; ++b) {
     for (int a = -1; a <= 1; ++a) {
       std::uint8_t& other = net.served[at(x + a, y + b)];
-      if (game.buildingId(x + a, y + b) != id || (services & ~unsigned{other}) == 0) continue;
+      if (city.buildingId(x + a, y + b) != id || (services & ~unsigned{other}) == 0) continue;
       other |= static_cast<std::uint8_t>(services);
       added = true;
     }
@@ -128,7 +125,7 @@ bool handOn(const GameState& game, Network& net, int x, int y) {
 }
 
 // One scan over the map. Says whether anything was added.
-bool pass(const GameState& game, Network& net) {
+bool pass(const City& city, Network& net) {
   bool added = false;
   for (int n = 0; n < net.spotCount; ++n) {
     const Spot spot = net.spots[static_cast<std::size_t>(n)];
@@ -141,44 +138,47 @@ bool pass(const GameState& game, Network& net) {
       bits |= static_cast<std::uint8_t>(reached);
       added = true;
     }
-    if (!spot.isRoad && handOn(game, net, spot.x, spot.y)) added = true;
+    if (!spot.isRoad && handOn(city, net, spot.x, spot.y)) added = true;
   }
   return added;
 }
 
 }  // namespace
 
-void floodServices(GameState& game, FloodCause cause) {
-  if (cause == FloodCause::press && game.lastPaletteTool == core::kResidenceTool) {
-    servePlacedBlock(game);
-  }
+void floodServices(City& city, std::optional<core::Cell> placed) {
+  if (placed) servePlacedBlock(city, *placed);
 
   Network net;
   for (int k = 1; k <= kServices; ++k) {
-    gather(net.road, game.roadService[k], bitOf(k));
-    gather(net.served, game.cellService[k], bitOf(k));
-    gather(net.covered, core::coverGrid(game, k), bitOf(k));
+    gather(net.road, city.roadService[k], bitOf(k));
+    gather(net.served, city.cellService[k], bitOf(k));
+    gather(net.covered, core::coverGrid(city, k), bitOf(k));
   }
   const Bits roadBefore = net.road;
   const Bits servedBefore = net.served;
 
   for (int y = 0; y <= kLastCell; ++y) {
     for (int x = 0; x <= kLastCell; ++x) {
-      const int code = game.tileCode(x, y);
+      const int code = city.tileCode(x, y);
       const bool isRoad = code == core::kRoadCode;
       if (!isRoad && !core::isResidenceCode(code)) continue;
       net.spots[static_cast<std::size_t>(net.spotCount++)] = {static_cast<std::int8_t>(x),
                                                               static_cast<std::int8_t>(y), isRoad};
-      if (isRoad) net.road[at(x, y)] |= static_cast<std::uint8_t>(servicesBeside(game, x, y));
+      if (isRoad) net.road[at(x, y)] |= static_cast<std::uint8_t>(servicesBeside(city, x, y));
     }
   }
 
   // A pass that adds nothing leaves nothing to add for those after it.
-  for (int n = 0; n < kPasses && pass(game, net); ++n) {
+  for (int n = 0; n < kPasses && pass(city, net); ++n) {
   }
 
-  giveBack(roadBefore, net.road, game.roadService);
-  giveBack(servedBefore, net.served, game.cellService);
+  giveBack(roadBefore, net.road, city.roadService);
+  giveBack(servedBefore, net.served, city.cellService);
+}
+
+void clearLayer(City& city, int k) {
+  city.roadService[k].fillSquare(0, kLastCell, 0);
+  city.cellService[k].fillSquare(0, kLastCell, 0);
 }
 
 }  // namespace sim

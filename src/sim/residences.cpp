@@ -9,9 +9,9 @@ namespace sim {
 
 namespace {
 
-using core::BlockDesign;
 using core::CellOffset;
-using core::GameState;
+using core::City;
+using core::Look;
 
 constexpr int kLastHousingCell = 31;
 
@@ -22,48 +22,48 @@ constexpr std::array<CellOffset, 8> kBehind{
 constexpr std::span<const CellOffset> kBehindAll{kBehind};
 constexpr std::span<const CellOffset> kBehindNear = kBehindAll.first(5);
 
-void markBehind(GameState& game, int x, int y, std::span<const CellOffset> behind) {
-  for (const CellOffset cell : behind) game.cellDirty(x + cell.x, y + cell.y) = 1;
+void markBehind(City& city, int x, int y, std::span<const CellOffset> behind) {
+  for (const CellOffset cell : behind) city.cellDirty(x + cell.x, y + cell.y) = 1;
 }
 
-void dress(GameState& game, int x, int y, const BlockDesign& stage) {
+void dress(City& city, int x, int y, const Look& stage) {
   for (std::size_t n = 0; n < core::kBlock.size(); ++n) {
     const int cellX = x + core::kBlock[n].x;
     const int cellY = y + core::kBlock[n].y;
-    game.tileImage(cellX, cellY) = static_cast<std::int16_t>(stage.images[n]);
-    game.cellTall(cellX, cellY) = stage.tall[n];
-    game.cellDirty(cellX, cellY) = 1;
+    city.tileImage(cellX, cellY) = static_cast<std::int16_t>(stage.images[n]);
+    city.cellTall(cellX, cellY) = stage.tall[n];
+    city.cellDirty(cellX, cellY) = 1;
   }
 }
 
-void evolve(GameState& game, int x, int y) {
+void evolve(City& city, int x, int y) {
   // The poorest cell decides for the building. Exactly 4 is a tent, exactly 9 a house.
-  double least = game.cellCapacity(x, y);
+  double least = city.cellCapacity(x, y);
   for (const CellOffset cell : core::kBlock) {
-    const double capacity = game.cellCapacity(x + cell.x, y + cell.y);
+    const double capacity = city.cellCapacity(x + cell.x, y + cell.y);
     if (capacity < least) least = capacity;
   }
 
   if (least <= 4) {
-    const int image = game.tileImage(x, y);
+    const int image = city.tileImage(x, y);
     if (image == core::kTentImage) return;
-    if (core::isHouseImage(image)) markBehind(game, x, y, kBehindNear);
-    if (core::isApartmentImage(image)) markBehind(game, x, y, kBehindAll);
-    dress(game, x, y, core::kTent);
+    if (core::isHouseImage(image)) markBehind(city, x, y, kBehindNear);
+    if (core::isApartmentImage(image)) markBehind(city, x, y, kBehindAll);
+    dress(city, x, y, core::kTent);
     return;
   }
-  // Wanted: houses and apartments are dressed and marked anew in every call, changed or not, so any
+  // Deliberate: houses and apartments are dressed and marked in every call, changed or not, so any
   // press repaints them all; only a tent that stays one is left alone.
-  markBehind(game, x, y, kBehindAll);
-  dress(game, x, y, least > 9 ? core::kApartment : core::kHouse);
+  markBehind(city, x, y, kBehindAll);
+  dress(city, x, y, least > 9 ? core::kApartment : core::kHouse);
 }
 
 }  // namespace
 
-void evolveResidences(GameState& game) {
+void evolveResidences(City& city) {
   for (int x = 0; x <= kLastHousingCell; ++x) {
     for (int y = 0; y <= kLastHousingCell; ++y) {
-      if (game.tileCode(x, y) == core::kResidenceCode) evolve(game, x, y);
+      if (city.tileCode(x, y) == core::kResidenceCode) evolve(city, x, y);
     }
   }
 }

@@ -6,6 +6,6 @@
 namespace sim {
 
 /// Gives every residence the pictures of its stage and marks what must be repainted. Draws nothing.
-void evolveResidences(core::GameState& game);
+void evolveResidences(core::City& city);
 
 }  // namespace sim

@@ -58,10 +58,10 @@ class MadeUpCity {
     game.tileImage(x, y) = static_cast<std::int16_t>(image);
     game.cellTall(x, y) = tall;
   }
-  void putBlock(int x, int y, const core::BlockDesign& block) {
+  void putBlock(int x, int y, const core::Building& block) {
     for (std::size_t i = 0; i < 4; ++i) {
-      put(x + core::kBlock[i].x, y + core::kBlock[i].y, block.firstCode + static_cast<int>(i),
-          block.images[i], block.tall[i]);
+      put(x + core::kBlock[i].x, y + core::kBlock[i].y, block.code + static_cast<int>(i),
+          block.look.images[i], block.look.tall[i]);
     }
   }
   /// What the surface must show when everything is painted anew.

@@ -76,11 +76,11 @@ class Views : public ::testing::Test {
     eachPixel(31, 31, [&](int x, int y) { city.put(x, y, 0, (x + y) % 3 == 0 ? 29 : 28, 0); });
     for (int x = 9; x <= 22; ++x) city.put(x, 12, core::kRoadCode, 2, 0);
     for (int tool = 2; tool <= 5; ++tool) {
-      city.putBlock(6 + 3 * tool, 10, core::blockOfTool(tool));
-      city.putBlock(7 + 3 * tool, 15, core::blockOfTool(tool));
+      city.putBlock(6 + 3 * tool, 10, *core::buildingOfTool(tool));
+      city.putBlock(7 + 3 * tool, 15, *core::buildingOfTool(tool));
     }
     for (const int x : {10, 13, 16}) {
-      city.putBlock(x, 13, core::kTent);
+      city.putBlock(x, 13, *core::buildingOfTool(core::kResidenceTool));
       for (const auto& d : core::kBlock) city.game.cellCapacity(x + d.x, 13 + d.y) = 2 * (x - 10);
     }
     for (const int x : {12, 15}) city.put(x, 13, core::kDoctorCode, 12, 1);
@@ -115,7 +115,7 @@ TEST_F(Views, ColoursTellWhoIsReachedAndFieldsTheMonth) {
   EXPECT_EQ(image(10, 12), 2) << "roads keep their pictures";
   for (std::size_t i = 0; i < 4; ++i) {
     const auto [dx, dy] = core::kBlock[i];
-    EXPECT_EQ(image(12 + dx, 10 + dy), core::kMarketBlock.images[i]);
+    EXPECT_EQ(image(12 + dx, 10 + dy), core::buildingOfService(core::kMarket).look.images[i]);
   }
   city.game.monthLength = 25;
   city.game.farmAnimationOn = 1;

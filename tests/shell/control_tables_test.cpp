@@ -4,12 +4,13 @@
 
 #include <set>
 
-#include "core/goals.h"
+#include "core/buildings.h"
+#include "core/missions.h"
 #include "map/views.h"
 #include "platform/layout.h"
-#include "scenario/missions.h"
+#include "scenario/letters.h"
 #include "shell/script_runner.h"
-#include "sim/month_tick.h"
+#include "sim/population.h"
 
 namespace {
 
@@ -129,7 +130,7 @@ TEST(ControlTables, ShowEveryCaptionWhole) {
     });
   };
   checkDesigns();
-  for (int number = 1; number <= scenario::kCampaignWon; ++number) {
+  for (int number = 1; number <= core::kCampaignWon; ++number) {
     for (const auto set : {scenario::LetterSet::list, scenario::LetterSet::homecoming}) {
       check("cpgninfo", scenario::letter(number, set));
       check("goalinfo", scenario::briefingGoal(number, set));
@@ -151,9 +152,14 @@ TEST(ControlTables, ShowEveryCaptionWhole) {
     platform::Text text;
     core::writeGoalNotice(text, mission);
     check("bilgilabel", text);
-    check("Label18", std::string(core::puzzleGoal(mission)) + " (current:23.75)");
+    if (!core::isPuzzle(mission)) continue;
+    check("Label18", std::string(core::puzzle(mission).goalText) + " (current:23.75)");
   }
-  for (int n = 0; n < sim::kMilestones; ++n) check("bilgilabel", sim::milestone(n).notice);
+  for (const int service : sim::kMilestones) {
+    platform::Text text;
+    core::writeUnlockNotice(text, core::buildingOfService(service));
+    check("bilgilabel", text);
+  }
   check("bilgilabel",
         "Disaster!A terrible earthquake hit your settlement,many buildings are collapsed and 1234 "
         "people died.");

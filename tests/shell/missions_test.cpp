@@ -1,9 +1,10 @@
 // Each mission and each puzzle, won and lost at its judgement, on both sides of every comparison.
 #include <gtest/gtest.h>
 
+#include "core/missions.h"
 #include "platform/files.h"
 #include "platform/pixels.h"
-#include "scenario/missions.h"
+#include "scenario/letters.h"
 #include "shell/game_screen.h"
 #include "shell/script_runner.h"
 
@@ -210,7 +211,7 @@ TEST(Missions, TheCityGoesOnWithItsPaymentAndAnEmptyBook) {
     play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
     play.run("press @15,15\nclick Command1 0\npress @16,15\nset gMission " + number);
     // A market at the far edge of the mission's square, whose roof rises over the backdrop.
-    const int size = scenario::mission(mission).mapSize;
+    const int size = core::mission(mission).mapSize;
     const auto cell = [&](int x, int y) {
       return "press @" + std::to_string(x + (30 - size) / 2) + "," +
              std::to_string(y + (30 - size) / 2);

@@ -52,10 +52,11 @@ TEST(Picture, AfterEveryChangeItIsAsIfPaintedAnew) {
       // Roads along four lines, and every tool around them, so that buildings meet and give way.
       const int tool = did < 6 ? 8 : did < 9 ? 7 : 1 + below(9);
       play.state().currentTool = tool;
-      play.state().cursorFootprint = core::toolDesign(tool).footprint;
-      play.state().cellX = 9 + below(12);
-      play.state().cellY = did < 8 ? 9 + 4 * below(4) : 9 + below(12);
-      play::useTool(screen.scene(), tool, play::Hand::player);
+      const core::Building* building = core::buildingOfTool(tool);
+      play.state().cursorFootprint = building == nullptr ? 1 : building->side;
+      const int x = 9 + below(12);
+      const int y = did < 8 ? 9 + 4 * below(4) : 9 + below(12);
+      play::useTool(screen.scene(), tool, {x, y}, play::User::player);
     }
     platform::BitBlt(seen, 0, 0, seen.width(), seen.height(), screen.canvas()->surface(), 0, 0,
                      platform::SRCCOPY);

@@ -3,8 +3,7 @@
 
 #include "core/new_game.h"
 #include "core/vocabulary.h"
-#include "sim/coverage.h"
-#include "sim/residences.h"
+#include "sim/rebuild.h"
 
 namespace sim {
 
@@ -29,12 +28,7 @@ struct City {
     for (int n = 0; n < 9; ++n) cell(core::kFarmCode + n, x + n / 3, y + n % 3);
     ++nextId_;
   }
-  void rebuild() {
-    rebuildCoverage(game);
-    floodServices(game, FloodCause::other);
-    rebuildCapacity(game);
-    evolveResidences(game);
-  }
+  void rebuild() { rebuildCity(game, {.flood = true}); }
   /// Gives the block at (x, y) its first `services` services.
   void serve(int x, int y, int services) {
     for (int k = 1; k <= core::kServices; ++k) {

@@ -4,6 +4,8 @@
 
 #include "platform/random.h"
 #include "sim/city.h"
+#include "sim/flood.h"
+#include "sim/residences.h"
 
 namespace sim {
 namespace {
@@ -13,18 +15,18 @@ using core::kDoctor;
 
 // The rule of the flood, told plainly: a residence just placed, the doors of the buildings, twelve
 // passes in which every cell is asked every time. Nobody asks what stands where the press was.
-void floodPlainly(GameState& g, FloodCause cause) {
-  for (int k = 1; k <= 5 && cause == FloodCause::press && g.lastPaletteTool == 1; ++k) {
+void floodPlainly(core::City& g, std::optional<core::Cell> placed) {
+  for (int k = 1; k <= 5 && placed; ++k) {
     bool carried = false, covered = false;
     for (int n = 0; n < 16; ++n) {
       const int a = n % 4 - 1, b = n / 4 - 1;
       const bool besideX = a == -1 || a == 2, besideY = b == -1 || b == 2;
-      const int x = g.cellX.whole() + a, y = g.cellY.whole() + b;
+      const int x = placed->x + a, y = placed->y + b;
       if (besideX != besideY) carried |= g.roadService[k](x, y) == 1;
       if (!besideX && !besideY) covered |= core::coverGrid(g, k)(x, y) == 1;
     }
     for (int n = 0; n < 4 && carried && covered; ++n) {
-      g.cellService[k](g.cellX.whole() + n % 2, g.cellY.whole() + n / 2) = 1;
+      g.cellService[k](placed->x + n % 2, placed->y + n / 2) = 1;
     }
   }
   const auto side = [&](int k, int x, int y, int one, int other) {
@@ -87,12 +89,10 @@ TEST(Flood, DoesExactlyWhatThePlainRuleDoes) {
     }
     City plain = fast;
     for (int flood = 0; flood < 4; ++flood) {
-      g.lastPaletteTool = plain.game.lastPaletteTool = 1 + whole(2);
-      g.cellX = plain.game.cellX = whole(30);
-      g.cellY = plain.game.cellY = whole(30);
-      const FloodCause cause = whole(3) == 0 ? FloodCause::other : FloodCause::press;
-      floodServices(g, cause);
-      floodPlainly(plain.game, cause);
+      std::optional<core::Cell> placed;
+      if (whole(3) == 0) placed = core::Cell{whole(30), whole(30)};
+      floodServices(g, placed);
+      floodPlainly(plain.game, placed);
       for (int n = 0; n < 5 * 50 * 50; ++n) {
         const int k = 1 + n / 2500;
         const int x = n % 50 - 10;
@@ -110,13 +110,14 @@ TEST(Flood, DoesExactlyWhatThePlainRuleDoes) {
 
 TEST(Coverage, EachCellOfABuildingCastsItsSquare) {
   City city;
-  for (const auto& [code, at] : {std::pair{core::kMarketCode, 10},
-                                 {core::kSchoolCode, 1},
-                                 {core::kTavernCode, 28},
-                                 {core::kChurchCode, 20}}) {
+  for (const auto& [code, at] : {std::pair{core::buildingOfService(core::kMarket).code, 10},
+                                 {core::buildingOfService(core::kSchool).code, 1},
+                                 {core::buildingOfService(core::kTavern).code, 28},
+                                 {core::buildingOfService(core::kChurch).code, 20}}) {
     city.block(code, at, at);
   }
-  city.block(core::kSchoolCode, 34, 34);  // at the rim of the tables nothing is written beside them
+  city.block(core::buildingOfService(core::kSchool).code, 34,
+             34);  // at the rim of the tables nothing is written beside them
   city.single(core::kDoctorCode, 4, 20);
   city.rebuild();
   for (const auto& [k, area] : {std::pair{1, 144}, {2, 196 + 144}, {3, 100}, {4, 144}, {5, 81}}) {

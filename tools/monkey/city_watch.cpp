@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "core/missions.h"
 #include "core/vocabulary.h"
 #include "monkey/watch.h"
 #include "sim/coverage.h"
@@ -10,8 +11,8 @@ namespace monkey {
 
 namespace {
 
-using core::BlockDesign;
 using core::GameState;
+using core::Look;
 
 struct City {
   const GameState& game;
@@ -24,7 +25,7 @@ struct City {
   int tall(int x, int y) const { return game.cellTall(x, y); }
 };
 
-bool shows(const City& c, int x, int y, const BlockDesign& design) {
+bool shows(const City& c, int x, int y, const Look& design) {
   for (std::size_t n = 0; n < 4; ++n) {
     const int cellX = x + core::kBlock[n].x;
     const int cellY = y + core::kBlock[n].y;
@@ -63,7 +64,7 @@ const char* residenceFault(const City& c, int x, int y) {
   for (const auto& d : core::kBlock) {
     least = std::min(least, static_cast<double>(c.game.cellCapacity(x + d.x, y + d.y)));
   }
-  const BlockDesign& due = least > 9 ? core::kApartment : least > 4 ? core::kHouse : core::kTent;
+  const Look& due = least > 9 ? core::kApartment : least > 4 ? core::kHouse : core::kTent;
   if (shows(c, x, y, due)) return nullptr;
   const bool anyStage = shows(c, x, y, core::kTent) || shows(c, x, y, core::kHouse) ||
                         shows(c, x, y, core::kApartment);
@@ -74,7 +75,7 @@ const char* residenceFault(const City& c, int x, int y) {
 }
 
 const char* blockFault(const City& c, int x, int y, int service) {
-  if (shows(c, x, y, core::blockOfTool(service + 1))) return nullptr;
+  if (shows(c, x, y, core::buildingOfService(service).look)) return nullptr;
   if (c.inView && service != c.game.overlayView.whole() &&
       flatImages(c, x, y, 2, core::kOtherImage, core::kOtherImage)) {
     return nullptr;
@@ -107,7 +108,8 @@ const char* roadFault(const City& c, int x, int y) {
 
 const char* groundFault(const City& c, int x, int y, bool inSquare) {
   const int image = c.image(x, y);
-  const bool walled = c.values.gMission == 9 || c.values.gMission == 10;
+  const core::Mission* mission = core::missionOf(c.values.gMission);
+  const bool walled = mission != nullptr && mission->walls;
   if (image >= 59 && image <= 61) {
     return walled && !inSquare && c.tall(x, y) == 1 ? nullptr : "a wall where none belongs";
   }

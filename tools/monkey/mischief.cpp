@@ -1,7 +1,7 @@
 #include "monkey/mischief.h"
 
+#include "core/missions.h"
 #include "platform/files.h"
-#include "scenario/missions.h"
 #include "store/record.h"
 
 namespace monkey {
@@ -88,9 +88,9 @@ std::string Mischief::enrich() {
   for (int n = 1; n <= 4; ++n) game.toolUnlocked[n] = 1;
   // Backdrops and walls fit squares of one size.
   const auto fits = [&](int mission) {
-    const bool walled = values.gMission == 9 || values.gMission == 10;
-    if (mission > scenario::kMissions) return !walled;
-    return scenario::mission(mission).mapSize == values.gMapSize;
+    const core::Mission* now = core::missionOf(values.gMission);
+    if (mission > core::kMissions) return now == nullptr || !now->walls;
+    return core::mission(mission).mapSize == values.gMapSize;
   };
   constexpr int kGoesOn[] = {2, 3, 5, 6, 8, 10};
   const int next = chance_.pick(kGoesOn);

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "core/game_controls.h"
+#include "core/missions.h"
 #include "core/vocabulary.h"
 #include "platform/files.h"
-#include "scenario/missions.h"
 #include "shell/game_screen.h"
 #include "shell/menu_controls.h"
 #include "store/record.h"
@@ -62,8 +62,8 @@ void Watch::newScreen() {
   tickOfMonth_ = game()->tickOfMonth;
   month_ = game()->month;
   taxRate_ = game()->taxRate;
-  const double mission = values().gMission;
-  if (!waiting() && mission >= 1 && mission <= 10 && scenario::goesOn(mission)) {
+  const core::Mission* mission = core::missionOf(values().gMission);
+  if (!waiting() && mission != nullptr && !mission->founds) {
     spoilt_ = mischief_.spoilt("mission" + std::to_string(values().gMission.whole()) + ".dat");
   }
 }
@@ -282,8 +282,8 @@ void Watch::watchGameControls() {
   if (rest.x < -1360 || rest.x > -16 || rest.y < -452 || rest.y > 28) {
     wrong("the map has slid too far");
   }
-  const bool pointerless =
-      g.currentTool == core::kInfoTool || values().gMission == 16 || !on(timer::Timer5);
+  const bool pointerless = g.currentTool == core::kInfoTool ||
+                           values().gMission == core::kDemonstration || !on(timer::Timer5);
   for (int n = 0; n < 8 && pointerless; ++n) {
     if (form[ui::Line1 + n].visible) wrong("a cursor where none belongs");
   }

@@ -1,9 +1,12 @@
-#include "sim/month_tick.h"
-
 #include <gtest/gtest.h>
 
+#include "sim/calendar.h"
 #include "sim/city.h"
 #include "sim/disasters.h"
+#include "sim/food.h"
+#include "sim/history.h"
+#include "sim/population.h"
+#include "sim/treasury.h"
 
 namespace sim {
 namespace {
@@ -48,7 +51,7 @@ TEST(Food, IsHarvestedEatenAndFlooredInThisOrder) {
 
 TEST(Month, MovesItsSumOfGoldAndShowsThreeStagesOfTheFarms) {
   City city;
-  city.block(core::kTavernCode, 3, 3);
+  city.block(core::buildingOfService(core::kTavern).code, 3, 3);
   city.single(core::kDoctorCode, 6, 6);
   city.farm(10, 10);
   city.block(core::kResidenceCode, 20, 20);
@@ -101,7 +104,7 @@ TEST(Earthquake, DrawsForEachStandingCellAndClearsTheLayersOfWhatStands) {
   core::GameState& g = city.game;
   city.block(core::kResidenceCode, 4, 4);
   city.block(core::kResidenceCode, 6, 4);  // wall to wall with the first
-  city.block(core::kMarketCode, 8, 7);
+  city.block(core::buildingOfService(core::kMarket).code, 8, 7);
   city.farm(20, 20);
   g.roadService[core::kMarket](4, 6) = g.roadService[core::kDoctor](4, 6) = 1;
   // The first cell of one residence falls, the last of the other, the market stands.

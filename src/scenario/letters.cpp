@@ -1,31 +1,15 @@
-#include "scenario/missions.h"
+#include "scenario/letters.h"
 
 #include <array>
 
-#include "core/goals.h"
+#include "core/missions.h"
 
 namespace scenario {
 
 namespace {
 
-// clang-format off
-constexpr std::array<Mission, kMissions> kTable{{
-    // no  row in the list                            side  fert.  start  judged
-    { 1,  " PART 1: All farmers dream",               18,   1.2,   1715,  1717, "Difficulty: Easy",         "Map size: Small",      "Land fertiliy: Good"},
-    { 2,  "           Payback",                       18,   1.2,   1717,  1719, "Difficulty: Easy",         "Map size: Small",      "Land fertiliy: Good"},
-    { 3,  "           Power of nature",               18,   1.2,   1719,  1720, "Difficulty: Easy",         "Map size: Small",      "Land fertiliy: Good"},
-    { 4,  " PART 2: City in the coast",               22,   1,     1720,  1721, "Difficulty: Intermediate", "Map size: Medium",     "Land fertiliy: Normal "},
-    { 5,  "           The golden harbor",             22,   1,     1721,  1723, "Difficulty: Intermediate", "Map size: Medium",     "Land fertiliy: Normal"},
-    { 6,  "           Beyond new horizons",           22,   1,     1723,  1725, "Difficulty: Intermediate", "Map size: Medium",     "Land fertiliy: Normal"},
-    { 7,  " PART 3: The noble city",                  18,   0.8,   1725,  1727, "Difficulty: Hard",         "Map size: Small",      "Land fertiliy: Bad"},
-    { 8,  "           Way to the prosperity",         18,   0.8,   1727,  1729, "Difficulty: Hard",         "Map size: Small",      "Land fertiliy: Bad"},
-    { 9,  " PART 4: City in the castle",              12,   0.8,   1729,  1730, "Difficulty: Very Hard",    "Map size: Very Small", "Land fertiliy: Bad"},
-    {10,  "           Mission impossible",            12,   0.8,   1730,  0,    "Difficulty: Very Hard",    "Map size: Very Small", "Land fertiliy: Bad"},
-}};
-// clang-format on
-
 // The letters as the list of missions shows them; the last one closes the campaign.
-constexpr std::array<std::string_view, kMissions + 1> kLetters{
+constexpr std::array<std::string_view, core::kMissions + 1> kLetters{
     "    I,your mighty king,heard that you are very talented in planning your village's food "
     "production.If you are such a gifted person I may use of you;I give you a chance of "
     "having the honor to serve your king.Our royal army grows and gets stronger each day; we "
@@ -96,10 +80,6 @@ constexpr std::string_view kHomecomingLetter3 =
 
 }  // namespace
 
-const Mission& mission(int number) {
-  return kTable[static_cast<std::size_t>(number - 1)];
-}
-
 std::string_view letter(int number, LetterSet set) {
   if (set == LetterSet::homecoming && number == 2) return kHomecomingLetter2;
   if (set == LetterSet::homecoming && number == 3) return kHomecomingLetter3;
@@ -107,31 +87,12 @@ std::string_view letter(int number, LetterSet set) {
 }
 
 std::string_view briefingGoal(int number, LetterSet set) {
-  if (number == kCampaignWon) return " You completed the campaign";
+  if (number == core::kCampaignWon) return " You completed the campaign";
   // The homecoming's second letter has one blank more before its goal.
   if (set == LetterSet::homecoming && number == 2) {
     return "  1000 people, 2500 golds and religion rating > 75% in two years";
   }
-  return core::missionGoal(number);
-}
-
-bool goesOn(double number) {
-  return number == 2 || number == 3 || number == 5 || number == 6 || number == 8 || number == 10;
-}
-
-HandOver handOver(int number) {
-  switch (number) {
-    case 2:
-      return {1500, 0, 1717};
-    case 3:
-      return {0, 2500, 1719};
-    case 5:
-      return {0, 0, 1721};
-    case 6:
-      return {0, 6000, 1723};
-    default:
-      return {0, 0, 0};
-  }
+  return core::mission(number).goalText;
 }
 
 }  // namespace scenario
