@@ -2,6 +2,7 @@
 #include <span>
 
 #include "core/new_game.h"
+#include "map/geometry.h"
 #include "map/walker_designs.h"
 #include "map/walkers.h"
 
@@ -48,8 +49,9 @@ const WalkerDesign& designOf(const GameState& game, int slot) {
 void drawBlock(Stage& stage, int slot, int picture) {
   const GameState& game = stage.game;
   const WalkerDesign& design = designOf(game, slot);
-  const int drawX = 32 * (game.walkerX[slot] - game.walkerY[slot]) + 960 + design.base.x;
-  const int drawY = 16 * (game.walkerX[slot] + game.walkerY[slot]) + design.base.y;
+  const platform::Point start = tallOrigin(game.walkerX[slot], game.walkerY[slot]);
+  const int drawX = start.x + design.base.x;
+  const int drawY = start.y + design.base.y;
   const auto n = static_cast<std::size_t>(picture);
   stage.canvas.pair(drawX + game.walkerPxX[slot], drawY + game.walkerPxY[slot], kBlockWidth,
                     kBlockHeight, stage.pictures.picTile[n], stage.pictures.picMask[n]);

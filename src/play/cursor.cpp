@@ -2,6 +2,7 @@
 
 #include "core/missions.h"
 #include "core/vocabulary.h"
+#include "map/geometry.h"
 #include "play/hover.h"
 #include "play/picking.h"
 #include "play/scrolling.h"
@@ -73,8 +74,8 @@ std::span<const LineEnds> linesOf(int footprint) {
 
 void placeLines(Scene& scene) {
   core::GameState& game = scene.game;
-  const int a = static_cast<int>(game.cursorPxX) + 594 + game.scrollX;
-  const int b = static_cast<int>(game.cursorPxY) + 228 + game.scrollY;
+  const int a = static_cast<int>(game.cursorPxX) - map::kRestingPlace.left + 2 + game.scrollX;
+  const int b = static_cast<int>(game.cursorPxY) - map::kRestingPlace.top + game.scrollY;
   const std::span<const LineEnds> lines = linesOf(game.cursorFootprint);
   for (int n = 0; n < 8; ++n) {
     if (n >= static_cast<int>(lines.size())) {

@@ -1,5 +1,7 @@
 #include "play/scrolling.h"
 
+#include "map/geometry.h"
+#include "platform/display.h"
 #include "sim/disasters.h"
 
 namespace play {
@@ -12,15 +14,15 @@ constexpr int kStepY = 32;
 
 // How far the picture may slide: with these limits its right edge stops just at the side panel.
 constexpr int kLeftLimit = -22;
-constexpr int kRightLimit = 800 - (1984 + 160);
+constexpr int kRightLimit = platform::kScreenWidth - (map::kRestingPlace.width + 160);
 constexpr int kTopLimit = 20;
-constexpr int kBottomLimit = 600 - (1056 - 30);
+constexpr int kBottomLimit = platform::kScreenHeight - (map::kRestingPlace.height - 30);
 
 }  // namespace
 
 void placeMap(Scene& scene) {
   const core::GameState& game = scene.game;
-  const platform::Rect rest = map::surfacePlace(map::kTallCells);
+  constexpr platform::Rect rest = map::kRestingPlace;
   scene.form.moveTo(ui::picScroll, rest.left - game.scrollX + sim::shakeOffset(game),
                     rest.top - game.scrollY);
 }
@@ -28,7 +30,7 @@ void placeMap(Scene& scene) {
 void scrollAtEdges(Scene& scene) {
   core::GameState& game = scene.game;
   // The limits are those of the place without the shake.
-  const platform::Rect rest = map::surfacePlace(map::kTallCells);
+  constexpr platform::Rect rest = map::kRestingPlace;
   const int scrolledX = game.scrollX;
   const int scrolledY = game.scrollY;
   if (game.cursorX < 10 && rest.left - game.scrollX <= kLeftLimit) game.scrollX -= kStepX;

@@ -4,6 +4,7 @@
 #include "core/missions.h"
 #include "core/new_game.h"
 #include "core/number_text.h"
+#include "map/geometry.h"
 #include "map/ground.h"
 #include "play/palette.h"
 #include "scenario/puzzles.h"
@@ -123,7 +124,7 @@ bool openGameScreen(GameScreen& screen) {
   game.drawTileHeight = 64;
   game.drawBoardSize = 31;
   game.drawOffsetY = 16;
-  scene.form.moveTo(ui::picScroll, -592, -228);
+  scene.form.moveTo(ui::picScroll, map::kRestingPlace.left, map::kRestingPlace.top);
   game.scrollX = game.scrollY = 0;
   scene.timers.disable(timer::Timer14);
   scene.form.hide(ui::Frame21);

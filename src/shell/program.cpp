@@ -1,13 +1,10 @@
 #include "shell/program.h"
 
+#include "map/geometry.h"
 #include "shell/game_screen.h"
 #include "shell/menu_screen.h"
 
 namespace shell {
-
-namespace {
-constexpr platform::Size kMapSurface{1984, 1056};
-}
 
 Program::Program(Services& services)
     : services_(services),
@@ -45,7 +42,8 @@ void Program::openGame() {
   }
   if (ended_) return;
   if (canvas_.surface().empty())
-    canvas_ = platform::Canvas(kMapSurface.width, kMapSurface.height, services_.assets.scale());
+    canvas_ = platform::Canvas(map::kRestingPlace.width, map::kRestingPlace.height,
+                               services_.assets.scale());
   auto game = std::make_unique<GameScreen>(*this);
   GameScreen& opened = *game;
   const bool cityTakenOver = opened.load();

@@ -5,6 +5,7 @@
 #include "core/missions.h"
 #include "core/new_game.h"
 #include "core/number_text.h"
+#include "map/geometry.h"
 #include "map/ground.h"
 #include "map/road_shapes.h"
 #include "map/views.h"
@@ -166,7 +167,7 @@ void clickLoad(GameScreen& screen) {
   play::hideCursor(scene);
   scene.timers.disable(timer::Timer5);
   scene.timers.disable(timer::Timer6);
-  scene.form.moveTo(ui::picScroll, -592, -228);
+  scene.form.moveTo(ui::picScroll, map::kRestingPlace.left, map::kRestingPlace.top);
   scene.game.scrollX = scene.game.scrollY = 0;
 }
 

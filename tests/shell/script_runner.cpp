@@ -11,6 +11,7 @@
 
 #include "core/game_controls.h"
 #include "driver/commands.h"
+#include "map/geometry.h"
 
 namespace script {
 
@@ -33,10 +34,11 @@ std::string withPixels(driver::Session& session, std::string command) {
     int y = 0;
     int length = 0;
     if (std::sscanf(command.c_str() + at, "@%d,%d%n", &x, &y, &length) != 2) break;
-    const platform::Rect map =
+    const platform::Rect place =
         session.program().screen()->form().onScreen(core::game_control::picScroll);
-    const std::string pixel = std::to_string(32 * (x - y) + 992 + map.left) + " " +
-                              std::to_string(16 * (x + y) + 48 + map.top);
+    const platform::Point centre = map::cellCentre(x, y);
+    const std::string pixel =
+        std::to_string(centre.x + place.left) + " " + std::to_string(centre.y + place.top);
     command.replace(at, static_cast<std::size_t>(length), pixel);
   }
   return command;

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "core/game_controls.h"
+#include "map/geometry.h"
 
 namespace monkey {
 
@@ -110,12 +111,13 @@ std::string Hands::named(driver::Session& session) {
 std::string Hands::cell(driver::Session& session, int astray) {
   lastX_ = std::clamp(lastX_ + chance_.between(-astray, astray), 0, 30);
   lastY_ = std::clamp(lastY_ + chance_.between(-astray, astray), 0, 30);
-  platform::Rect map{-592, -228, 0, 0};
+  platform::Rect place = map::kRestingPlace;
   if (session.program().screen()->canvas() != nullptr) {
-    map = session.program().screen()->form().onScreen(core::game_control::picScroll);
+    place = session.program().screen()->form().onScreen(core::game_control::picScroll);
   }
-  const int x = 32 * (lastX_ - lastY_) + 992 + map.left + chance_.between(-8, 8);
-  const int y = 16 * (lastX_ + lastY_) + 48 + map.top + chance_.between(-4, 4);
+  const platform::Point centre = map::cellCentre(lastX_, lastY_);
+  const int x = centre.x + place.left + chance_.between(-8, 8);
+  const int y = centre.y + place.top + chance_.between(-4, 4);
   if (x < 0 || x > 622 || y < 40 || y > 599) {
     lastX_ = lastY_ = 15;
     return "advance 25";
@@ -228,12 +230,13 @@ void Hands::planStreet(driver::Session& session) {
   const int length = std::min(chance_.between(6, 12), side);
   const bool alongX = chance_.percent(50);
   // It begins at a cell in sight, up on the left or right so that its far end is in sight too.
-  const platform::Rect map =
+  const platform::Rect place =
       session.program().screen()->form().onScreen(core::game_control::picScroll);
-  const int across = (alongX ? chance_.between(60, 300) : chance_.between(320, 560)) - map.left;
-  const int down = chance_.between(100, 300) - map.top;
-  const int x = std::clamp((2 * (down - 32) + across - 992) / 64, first, first + side);
-  const int y = std::clamp((2 * (down - 32) - across + 992) / 64, first, first + side);
+  const int across = (alongX ? chance_.between(60, 300) : chance_.between(320, 560)) - place.left;
+  const int down = chance_.between(100, 300) - place.top;
+  const platform::Point cell = map::cellAt(across, down);
+  const int x = std::clamp(cell.x, first, first + side);
+  const int y = std::clamp(cell.y, first, first + side);
   const auto press = [&](int along, int aside) {
     add("at " + to_string(x + (alongX ? along : aside)) + " " +
         to_string(y + (alongX ? aside : along)));

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "core/game_controls.h"
+#include "map/geometry.h"
 #include "map/renderer.h"
 #include "map/walker_designs.h"
 #include "monkey/watch.h"
@@ -16,7 +17,8 @@ namespace timer = core::game_timer;
 using platform::Rect;
 
 Rect boxOf(int x, int y) {
-  return {32 * (x - y) + 960, 16 * (x + y), 64, 64};
+  const platform::Point origin = map::tallOrigin(x, y);
+  return {origin.x, origin.y, 64, 64};
 }
 
 /// Where a walker's block stands on the surface.
@@ -29,9 +31,7 @@ Rect blockOf(const core::GameState& game, int slot) {
 
 /// Whether the ground at a pixel of the surface is straight road.
 bool isLane(const core::GameState& game, int px, int py) {
-  // Twice the distances along the axes of the cells, from the upper corner of cell (0, 0).
-  const int a = (2 * (py - 32) + (px - 992)) >> 6;
-  const int b = (2 * (py - 32) - (px - 992)) >> 6;
+  const auto [a, b] = map::cellAt(px, py);
   if (a < 0 || b < 0 || a > core::kLastCell || b > core::kLastCell) return false;
   const int image = game.tileImage(a, b);
   return image == core::kRoadAlongX || image == core::kRoadAlongY;

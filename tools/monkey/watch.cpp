@@ -5,6 +5,7 @@
 #include "core/game_controls.h"
 #include "core/missions.h"
 #include "core/vocabulary.h"
+#include "map/geometry.h"
 #include "platform/files.h"
 #include "shell/game_screen.h"
 #include "shell/menu_controls.h"
@@ -273,7 +274,8 @@ void Watch::watchGameControls() {
     if (!allowed) wrong("out of its place: " + nameOf(form[id]));
   }
   const platform::Rect map = form[ui::picScroll].place;
-  const platform::Point rest{-592 - g.scrollX, -228 - g.scrollY};
+  const platform::Point rest{map::kRestingPlace.left - g.scrollX,
+                             map::kRestingPlace.top - g.scrollY};
   // A load puts the map to its rest in the middle of a shake, until the next one.
   const bool shaken = on(timer::Timer12) && map.left == rest.x - 32;
   if ((map.left != rest.x && !shaken) || map.top != rest.y) {

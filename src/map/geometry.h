@@ -1,0 +1,34 @@
+// Where cells are on the surface of the map, and where the surface is on the screen.
+#pragma once
+
+#include "platform/geometry.h"
+
+namespace map {
+
+/// The surface, at its resting place: centred on the screen.
+inline constexpr platform::Rect kRestingPlace{-592, -228, 1984, 1056};
+/// Half of a cell's diamond across and down: one step along x is (32, 16), one along y (-32, 16).
+inline constexpr int kHalfCellWidth = 32;
+inline constexpr int kHalfCellHeight = 16;
+
+/// The upper left corner of a tall cell's box of 64 x 64.
+constexpr platform::Point tallOrigin(int x, int y) {
+  return {kHalfCellWidth * (x - y) + 960, kHalfCellHeight * (x + y)};
+}
+/// The upper left corner of a flat cell's box of 64 x 32, the lower half of a tall cell's.
+constexpr platform::Point flatOrigin(int x, int y) {
+  return {tallOrigin(x, y).x, tallOrigin(x, y).y + 2 * kHalfCellHeight};
+}
+/// The middle of a cell's diamond.
+constexpr platform::Point cellCentre(int x, int y) {
+  return {flatOrigin(x, y).x + kHalfCellWidth, flatOrigin(x, y).y + kHalfCellHeight};
+}
+
+/// The cell whose diamond holds a pixel of the surface, by the exact lattice.
+constexpr platform::Point cellAt(int px, int py) {
+  const int across = px - (tallOrigin(0, 0).x + kHalfCellWidth);
+  const int down = 2 * (py - 2 * kHalfCellHeight);
+  return {(down + across) >> 6, (down - across) >> 6};
+}
+
+}  // namespace map
