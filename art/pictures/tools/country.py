@@ -508,7 +508,7 @@ def cut_water(img, X0, Y0, img2, x0, y0, s):
     ragged = blur(r.randn(*v.shape), 3 * s) * 3 * s + .5 * blur(r.randn(*v.shape), s) * s
     plain = np.where(((v > 0) & free)[..., None], per(699, 80), 0)
     plain = np.round(np.clip(plain, 0, 1) * 255).astype(np.uint8)
-    plain = dimmed(plain, np.where(v < P + .05, 1, smooth(4.42, 3.92, v + .05 * np.clip(ragged, -1.5, 1.5))))
+    plain = dimmed(plain, np.where(v < P + .05, 1, smooth(4.42, 3.92, v + .05 * np.clip(ragged, -1.5, 1.5))), 63)
     save_land('mask/53', plain, s)
     # the first one: the bend; its lower tip is as in the others
     u, v = cells(821, 19)
@@ -531,13 +531,18 @@ def cut_water(img, X0, Y0, img2, x0, y0, s):
     save_land('mask/22', np.where(((v > 0) & (v < 4.5) & free)[..., None], p, 0), s)
 
 
-def dimmed(img, f):
-    """Colours times f as far as their own bits allow: a dimmed pixel ORed with the
-    whole one gives the whole one."""
-    out = np.zeros_like(img)
-    for bit in (128, 64, 32, 16, 8, 4, 2, 1):
-        out |= np.where((img & bit > 0) & (out + bit <= img * f[..., None]), bit, 0).astype(np.uint8)
-    return out
+def dimmed(img, f, seed):
+    """Colours times f with no bits but their own, so that a dimmed pixel ORed with
+    the whole one gives the whole one.  Of the two nearest such values one is drawn,
+    so that a few pixels together have the right colour."""
+    low = np.zeros_like(img)
+    for bit in (128, 64, 32, 16, 8, 4, 2, 1):           # the largest not above
+        low |= np.where((img & bit > 0) & (low + bit <= img * f[..., None]), bit, 0).astype(np.uint8)
+    rest = img & ~low
+    step = rest & (~rest + 1)                           # its lowest bit not yet taken,
+    high = (low | step) & ~(low & (step - 1))           # for all those below: the next one
+    share = (img * f[..., None] - low) / np.maximum(high.astype(int) - low, 1)
+    return np.where(np.random.RandomState(seed).rand(*f.shape)[..., None] < share, high, low)
 
 
 def ripple(w, mask, seed, n, size=(.10, .34), bright=.5):
