@@ -1,22 +1,19 @@
-// Music and cues. Nothing in the game depends on sound: a call that fails is silence.
+// Music and cues. Nothing in the game depends on sound: what cannot be played is silence.
 #pragma once
 
-#include <string_view>
-
 namespace platform {
-
-/// Play and return at once; a cue that still sounds is cut off.
-inline constexpr int SND_ASYNC = 1;
 
 class Media {
  public:
   virtual ~Media() = default;
-  /// Plays the WAV file at `path`. The result says whether it could be played.
-  virtual bool sndPlaySoundA(std::string_view path, int flags) = 0;
-  /// Runs one media control command: `Open "FILE" type sequencer alias canyon`, `play canyon`,
-  /// `close canyon`. Returns 0, or another number for a command that failed. Closing an alias that is
-  /// not open does nothing.
-  virtual int mciSendStringA(std::string_view command) = 0;
+  /// Plays cue 1 .. 4 and returns at once; a cue that still sounds is cut off.
+  virtual void playCue(int cue) = 0;
+  /// Opens theme 1 .. 5; the one before must have been closed.
+  virtual void openTheme(int theme) = 0;
+  /// Plays the theme that is open from its beginning.
+  virtual void playTheme() = 0;
+  /// Stops the theme. Nothing happens when none is open.
+  virtual void closeTheme() = 0;
 };
 
 }  // namespace platform

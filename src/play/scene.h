@@ -9,8 +9,9 @@
 #include "map/renderer.h"
 #include "platform/desk.h"
 #include "platform/form.h"
+#include "platform/media.h"
 #include "platform/timers.h"
-#include "sound/speaker.h"
+#include "sound/cues.h"
 
 namespace play {
 
@@ -24,11 +25,11 @@ struct Scene {
   platform::Timers& timers;
   map::Stage& stage;
   platform::Desk& desk;
-  sound::Speaker& speaker;
+  platform::Media& media;
 
   /// Plays a cue if the player wants sound effects.
   void cue(sound::Cue which) {
-    if (values.gSoundOn == 1) speaker.cue(which);
+    if (values.gSoundOn == 1) media.playCue(which);
   }
   platform::Text& text(int control) { return form[control].text; }
 };

@@ -56,12 +56,12 @@ void musicTick(GameScreen& s) {
   core::GameState& game = *s.game();
   const int track = sound::countMusicSecond(game);
   if (track != 0) {
-    sound::Speaker& speaker = s.program().speaker();
-    speaker.closeMusic();
-    speaker.openMusic(track);
+    platform::Media& media = s.program().media();
+    media.closeTheme();
+    media.openTheme(track);
     // Opening a theme may take a while: what waits runs now. The screen may be closed by it.
     s.program().letWaitingHandlersRun();
-    speaker.playMusic();
+    media.playTheme();
   }
   sound::closeMusicCycle(game);
 }
@@ -158,7 +158,7 @@ void chooseMusic(GameScreen& screen, sound::MusicChoice choice) {
   if (sound::chooseMusic(*screen.game(), choice)) {
     screen.timers().enable(timer::Timer100);
   } else {
-    screen.program().speaker().closeMusic();
+    screen.program().media().closeTheme();
     screen.timers().disable(timer::Timer100);
   }
 }

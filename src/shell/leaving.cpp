@@ -17,7 +17,7 @@ void writePopulation(GameScreen& screen) {
 }  // namespace
 
 void returnToMenu(GameScreen& screen) {
-  screen.scene().speaker.closeMusic();
+  screen.scene().media.closeTheme();
   screen.program().openMenu();
 }
 

@@ -30,7 +30,7 @@ core::ProgramValues& MenuScreen::values() {
 }
 
 void MenuScreen::cue(sound::Cue cue) {
-  program_.speaker().cue(cue);
+  program_.media().playCue(cue);
 }
 
 void MenuScreen::showPanel(int panel) {

@@ -4,7 +4,7 @@
 
 #include "shell/menu_controls.h"
 #include "shell/screen.h"
-#include "sound/speaker.h"
+#include "sound/cues.h"
 
 namespace shell {
 

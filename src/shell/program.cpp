@@ -8,7 +8,6 @@ namespace shell {
 
 Program::Program(Services& services)
     : services_(services),
-      speaker_(services.media, services.programFolder),
       progress_(services.programFolder),
       desk_(*services.assets.font, services.clipboard),
       painter_(*services.assets.font),

@@ -13,7 +13,6 @@
 #include "platform/painter.h"
 #include "shell/screen.h"
 #include "shell/services.h"
-#include "sound/speaker.h"
 #include "store/progress_keeper.h"
 
 namespace shell {
@@ -53,7 +52,7 @@ class Program {
   // For the screens.
   Services& services() { return services_; }
   core::ProgramValues& values() { return values_; }
-  sound::Speaker& speaker() { return speaker_; }
+  platform::Media& media() { return services_.media; }
   store::ProgressKeeper& progress() { return progress_; }
   platform::Canvas& canvas() { return canvas_; }
   /// Opens the game screen in place of the menu: everything that its opening does happens in here.
@@ -70,7 +69,6 @@ class Program {
 
   Services& services_;
   core::ProgramValues values_;
-  sound::Speaker speaker_;
   store::ProgressKeeper progress_;
   platform::Desk desk_;
   platform::Painter painter_;

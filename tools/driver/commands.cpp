@@ -315,7 +315,7 @@ std::string box(Call& call) {
 }
 
 std::string sounds(Call& call) {
-  return ok(describeSounds(call.session.media().take(), call.session.folder()));
+  return ok(describeSounds(call.session.media().take()));
 }
 
 std::string top(Call& call) {

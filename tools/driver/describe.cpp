@@ -95,12 +95,9 @@ std::string describeBox(const platform::MessageBox* box) {
   return JsonObject().addText("title", box->title).addText("text", box->text).text();
 }
 
-std::string describeSounds(std::span<const std::string> sounds, const std::string& folder) {
+std::string describeSounds(std::span<const std::string> sounds) {
   std::string array = "[";
-  for (std::string sound : sounds) {
-    if (const std::size_t at = sound.find(folder); at != std::string::npos) {
-      sound.replace(at, folder.size(), "F");
-    }
+  for (const std::string& sound : sounds) {
     if (array.size() > 1) array += ",";
     array += quoted(sound);
   }

@@ -16,6 +16,6 @@ std::string describeControl(const platform::Form& form, int id);
 /// A message box as a JSON object, or null.
 std::string describeBox(const platform::MessageBox* box);
 /// A JSON array; the program's folder is written as F.
-std::string describeSounds(std::span<const std::string> sounds, const std::string& folder);
+std::string describeSounds(std::span<const std::string> sounds);
 
 }  // namespace driver

@@ -4,27 +4,20 @@
 
 namespace platform {
 
-namespace {
-
-/// The number in a file's name: 3 for ".../theme3.Mid"; 0 for a name that does not begin with `stem`.
-int numberOf(std::string_view path, std::string_view stem) {
-  path.remove_prefix(path.find_last_of("/\\") + 1);
-  return path.starts_with(stem) && path.size() > stem.size() ? path[stem.size()] - '0' : 0;
+void BrowserMedia::playCue(int cue) {
+  pageCue(cue);
 }
 
-}  // namespace
-
-bool BrowserMedia::sndPlaySoundA(std::string_view path, int) {
-  return pageCue(numberOf(path, "sound")) != 0;
+void BrowserMedia::openTheme(int theme) {
+  pageOpenTheme(theme);
 }
 
-int BrowserMedia::mciSendStringA(std::string_view command) {
-  if (command == "play canyon") return pagePlayTheme() != 0 ? 0 : 1;
-  if (command == "close canyon") {
-    pageCloseTheme();
-    return 0;
-  }
-  return pageOpenTheme(numberOf(command, "theme")) != 0 ? 0 : 1;
+void BrowserMedia::playTheme() {
+  pagePlayTheme();
+}
+
+void BrowserMedia::closeTheme() {
+  pageCloseTheme();
 }
 
 }  // namespace platform

@@ -7,8 +7,10 @@ namespace platform {
 
 class BrowserMedia : public Media {
  public:
-  bool sndPlaySoundA(std::string_view path, int flags) override;
-  int mciSendStringA(std::string_view command) override;
+  void playCue(int cue) override;
+  void openTheme(int theme) override;
+  void playTheme() override;
+  void closeTheme() override;
 };
 
 }  // namespace platform

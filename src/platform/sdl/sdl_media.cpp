@@ -51,21 +51,16 @@ bool openDevice(const Mixer& mixer) {
   return false;
 }
 
-std::string_view fileName(std::string_view path) {
-  const std::size_t separator = path.find_last_of("/\\");
-  return separator == std::string_view::npos ? path : path.substr(separator + 1);
-}
-
 }  // namespace
 
 SdlMedia::SdlMedia(std::string programFolder, std::string soundFolder)
     : programFolder_(std::move(programFolder)), soundFolder_(std::move(soundFolder)) {}
 
 SdlMedia::~SdlMedia() {
-  closeMusic();
+  closeTheme();
   if (mixer_ == nullptr) return;
   mixer_->haltChannel(-1);
-  for (const auto& [name, chunk] : cues_) {
+  for (Mix_Chunk* const chunk : cues_) {
     if (chunk != nullptr) mixer_->freeChunk(chunk);
   }
   mixer_->closeAudio();
@@ -90,12 +85,10 @@ void SdlMedia::open() {
     break;
   }
   if (!fontFound_) std::fprintf(stderr, "vellmoran: no music: there is no soundfont\n");
-  for (const char* name : {"sound1.wav", "sound2.wav", "sound3.wav", "sound4.wav"}) cue(name);
+  loadCues();
 }
 
-std::string SdlMedia::find(std::string_view path) const {
-  const std::string name(fileName(path));
-  if (name.empty()) return "";
+std::string SdlMedia::find(const std::string& name) const {
   for (const std::string* folder : {&programFolder_, &soundFolder_}) {
     const std::string candidate = *folder + "/" + name;
     if (fileExists(candidate)) return candidate;
@@ -103,56 +96,37 @@ std::string SdlMedia::find(std::string_view path) const {
   return "";
 }
 
-Mix_Chunk* SdlMedia::cue(std::string_view path) {
-  const std::string_view name = fileName(path);
-  if (const auto known = cues_.find(name); known != cues_.end()) return known->second;
-  const std::string file = find(name);
-  Mix_Chunk* const chunk =
-      file.empty() ? nullptr : mixer_->loadWavRw(SDL_RWFromFile(file.c_str(), "rb"), 1);
-  cues_.emplace(name, chunk);
-  return chunk;
+void SdlMedia::loadCues() {
+  for (std::size_t n = 0; n < cues_.size(); ++n) {
+    const std::string file = find("sound" + std::to_string(n + 1) + ".wav");
+    if (!file.empty()) cues_[n] = mixer_->loadWavRw(SDL_RWFromFile(file.c_str(), "rb"), 1);
+  }
 }
 
-bool SdlMedia::sndPlaySoundA(std::string_view path, int) {
+void SdlMedia::playCue(int cue) {
   open();
-  if (mixer_ == nullptr) return false;
-  Mix_Chunk* const chunk = cue(path);
+  if (mixer_ == nullptr) return;
+  Mix_Chunk* const chunk = cues_[static_cast<std::size_t>(cue - 1)];
   // The cue that sounds dies away on its own channel while the new one begins on the other: cut off
   // hard, it would tick.
   if (mixer_->playing(channel_) != 0) mixer_->fadeOutChannel(channel_, kFade);
-  if (chunk == nullptr) return false;
+  if (chunk == nullptr) return;
   channel_ = 1 - channel_;
-  return mixer_->playChannelTimed(channel_, chunk, 0, -1) >= 0;
+  mixer_->playChannelTimed(channel_, chunk, 0, -1);
 }
 
-int SdlMedia::mciSendStringA(std::string_view command) {
-  constexpr std::string_view kOpen = "Open \"";
-  constexpr std::string_view kSequencer = "\" type sequencer alias canyon";
-  if (command == "close canyon") {
-    closeMusic();
-    return 0;
-  }
-  if (command == "play canyon") {
-    return music_ != nullptr && mixer_->playMusic(music_, 1) == 0 ? 0 : 1;
-  }
-  if (command.starts_with(kOpen) && command.ends_with(kSequencer) &&
-      command.size() > kOpen.size() + kSequencer.size()) {
-    command.remove_prefix(kOpen.size());
-    command.remove_suffix(kSequencer.size());
-    return openMusic(command) ? 0 : 1;
-  }
-  return 1;
-}
-
-bool SdlMedia::openMusic(std::string_view path) {
+void SdlMedia::openTheme(int theme) {
   open();
-  if (mixer_ == nullptr || !fontFound_ || music_ != nullptr) return false;
-  const std::string file = find(path);
+  if (mixer_ == nullptr || !fontFound_ || music_ != nullptr) return;
+  const std::string file = find("theme" + std::to_string(theme) + ".Mid");
   if (!file.empty()) music_ = mixer_->loadMusic(file.c_str());
-  return music_ != nullptr;
 }
 
-void SdlMedia::closeMusic() {
+void SdlMedia::playTheme() {
+  if (music_ != nullptr) mixer_->playMusic(music_, 1);
+}
+
+void SdlMedia::closeTheme() {
   if (music_ == nullptr) return;
   mixer_->haltMusic();
   mixer_->freeMusic(music_);

@@ -3,9 +3,7 @@
 #pragma once
 
 #include <array>
-#include <map>
 #include <string>
-#include <string_view>
 
 #include "platform/media.h"
 
@@ -28,18 +26,19 @@ class SdlMedia : public Media {
   /// the menu waits, behind its first picture; a first sound opens by itself.
   void open();
 
-  bool sndPlaySoundA(std::string_view path, int flags) override;
-  int mciSendStringA(std::string_view command) override;
+  void playCue(int cue) override;
+  void openTheme(int theme) override;
+  void playTheme() override;
+  void closeTheme() override;
 
  private:
-  std::string find(std::string_view path) const;
-  Mix_Chunk* cue(std::string_view path);
-  bool openMusic(std::string_view path);
-  void closeMusic();
+  /// The file of a theme or cue, by its bare name; empty when there is none.
+  std::string find(const std::string& name) const;
+  void loadCues();
 
   std::string programFolder_;
   std::string soundFolder_;
-  std::map<std::string, Mix_Chunk*, std::less<>> cues_;  // by file name; null for one that failed
+  std::array<Mix_Chunk*, 4> cues_{};  // null for one that failed
   Mix_Music* music_ = nullptr;
   int channel_ = 0;
   const Mixer* mixer_ = nullptr;  // null while there is no device

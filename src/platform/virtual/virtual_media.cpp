@@ -4,15 +4,20 @@
 
 namespace platform {
 
-bool VirtualMedia::sndPlaySoundA(std::string_view path, int) {
-  const std::size_t separator = path.find_last_of("/\\");
-  log_.emplace_back(separator == std::string_view::npos ? path : path.substr(separator + 1));
-  return true;
+void VirtualMedia::playCue(int cue) {
+  log_.push_back("sound" + std::to_string(cue) + ".wav");
 }
 
-int VirtualMedia::mciSendStringA(std::string_view command) {
-  log_.emplace_back(command);
-  return 0;
+void VirtualMedia::openTheme(int theme) {
+  log_.push_back("Open \"F\\theme" + std::to_string(theme) + ".Mid\" type sequencer alias canyon");
+}
+
+void VirtualMedia::playTheme() {
+  log_.emplace_back("play canyon");
+}
+
+void VirtualMedia::closeTheme() {
+  log_.emplace_back("close canyon");
 }
 
 std::vector<std::string> VirtualMedia::take() {

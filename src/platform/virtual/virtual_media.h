@@ -1,4 +1,5 @@
-// Sound that is written down instead of played.
+// Sound that is written down instead of played: a cue as its file name, what is done to a theme as the
+// text of a media command, with F for the program's folder.
 #pragma once
 
 #include <string>
@@ -10,10 +11,12 @@ namespace platform {
 
 class VirtualMedia : public Media {
  public:
-  bool sndPlaySoundA(std::string_view path, int flags) override;
-  int mciSendStringA(std::string_view command) override;
+  void playCue(int cue) override;
+  void openTheme(int theme) override;
+  void playTheme() override;
+  void closeTheme() override;
 
-  /// What was asked for since the last call: a cue as its file name, a command word for word.
+  /// What was asked for since the last call.
   std::vector<std::string> take();
 
  private:
