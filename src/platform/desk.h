@@ -56,6 +56,8 @@ class Desk {
   Form* form() { return form_; }
 
   void pointerMoved(Point screen);
+  /// The pointer is no longer over the screen: no tooltip before it comes back.
+  void pointerLeft() { hovered_ = hoveredEntry_ = -1; }
   void buttonDown(Modifiers held = {});
   void buttonUp();
   /// The same at a point. The pointer moves there first, unless it is there already.
@@ -76,6 +78,10 @@ class Desk {
   enum class Caret { atEnd, overAll };
   void focusOn(int id, Caret caret);
   Point pointer() const { return pointer_; }
+  /// Whether the pointer at an edge of the screen may slide what is shown. A real window forbids it
+  /// while the pointer is only passing.
+  void setEdgeScrolling(bool allowed) { edgeScrolling_ = allowed; }
+  bool edgeScrolling() const { return edgeScrolling_; }
 
   /// Puts a message box on the screen. Boxes queue: the next shows when the first is closed.
   void showBox(std::string_view title, std::string_view text);
@@ -130,6 +136,7 @@ class Desk {
   FormListener* listener_ = nullptr;
   int opened_ = 0;
   Point pointer_{600, 300};
+  bool edgeScrolling_ = true;
   int pressed_ = -1;
   int focus_ = -1;
   Selection selection_;

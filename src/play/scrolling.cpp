@@ -28,6 +28,7 @@ void placeMap(Scene& scene) {
 }
 
 void scrollAtEdges(Scene& scene) {
+  if (!scene.desk.edgeScrolling()) return;
   core::GameState& game = scene.game;
   // The limits are those of the place without the shake.
   constexpr platform::Rect rest = map::kRestingPlace;

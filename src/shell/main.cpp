@@ -1,8 +1,8 @@
 // The game itself: a window, real sound, the machine's clock.
-#include <cstdio>
+#include <algorithm>
 #include <string>
 
-#include "platform/files.h"
+#include "platform/pausing_clock.h"
 #include "platform/program_folder.h"
 #include "platform/sdl/sdl_clipboard.h"
 #include "platform/sdl/sdl_clock.h"
@@ -14,94 +14,93 @@
 
 namespace {
 
-int fail(const std::string& what) {
-  std::fprintf(stderr, "vellmoran: %s\n", what.c_str());
-  return 1;
-}
+/// Brings what happens in the window to the program.
+class Window {
+ public:
+  Window(platform::SdlDisplay& display, platform::PausingClock& clock, shell::Program& program)
+      : display_(display), clock_(clock), program_(program), events_(display) {}
 
-void deliver(const platform::Event& event, shell::Program& program) {
-  platform::Desk& desk = program.desk();
-  using Kind = platform::EventKind;
-  switch (event.kind) {
-    case Kind::pointer:
-      desk.pointerMoved(event.point);
-      break;
-    case Kind::down:
-      desk.buttonDown(event.point, event.held);
-      break;
-    case Kind::up:
-      desk.buttonUp(event.point);
-      break;
-    case Kind::wheel:
-      desk.wheel(event.steps);
-      break;
-    case Kind::text:
-      desk.type(event.text.data());
-      break;
-    case Kind::key:
-      desk.key(event.key, event.held);
-      break;
-    case Kind::redraw:
-      program.painter().forget();
-      break;
-    case Kind::quit:
-      shell::keepUnsavedCity(program);
-      program.end(0);
-      break;
+  /// Delivers what waits, after waiting for it up to `timeout` milliseconds.
+  void takeEvents(std::int64_t timeout) {
+    platform::Event event;
+    while (!program_.ended() && events_.next(event, timeout)) {
+      clock_.setPaused(display_.hidden());
+      program_.desk().setNow(clock_.milliseconds());
+      platform::deliver(event, program_.desk());
+      if (event.kind == platform::EventKind::redraw) program_.painter().forget();
+      if (event.kind == platform::EventKind::quit) {
+        shell::keepUnsavedCity(program_);
+        program_.end(0);
+      }
+      notePage();
+      timeout = 0;
+    }
+    program_.desk().setEdgeScrolling(events_.edgeScrolling());
+    program_.settle();
   }
-}
 
-/// Delivers what waits at the window, after waiting for it up to `timeout` milliseconds.
-void takeEvents(platform::SdlEvents& events, shell::Program& program, std::int64_t timeout) {
-  platform::Event event;
-  while (!program.ended() && events.next(event, timeout)) {
-    program.desk().setNow(program.services().clock.milliseconds());
-    deliver(event, program);
-    timeout = 0;
+  /// Shows what has changed, sleeps until something happens or a timer is due, and lets the program
+  /// act on it. With work left to do it sleeps not at all.
+  void step(bool workLeft) {
+    const platform::DamageList& changed = program_.paint();
+    if (!changed.empty()) display_.present(program_.framebuffer(), changed.rects());
+    takeEvents(workLeft ? 0 : untilDue());
+    program_.runTimers();
+    notePage();
   }
-  program.settle();
-}
+
+ private:
+  /// Milliseconds; -1 where only an event will bring something to do.
+  std::int64_t untilDue() {
+    const std::int64_t due = clock_.paused() ? -1 : program_.nextDue();
+    return due < 0 ? -1 : std::max<std::int64_t>(0, due - clock_.milliseconds());
+  }
+  void notePage() {
+    if (program_.pages() == page_) return;
+    page_ = program_.pages();
+    events_.screenOpened();
+  }
+
+  platform::SdlDisplay& display_;
+  platform::PausingClock& clock_;
+  shell::Program& program_;
+  platform::SdlEvents events_;
+  int page_ = 0;
+};
 
 }  // namespace
 
 int main() {
   const std::string home = platform::executableFolder();
+  const std::string data = home + "/data";
+  platform::SdlDisplay display(data + "/pictures/icon.png", data + "/font.otf");
   std::string folder;
   std::string error;
-  if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error)) {
-    return fail(error);
-  }
-  const std::string data = home + "/data";
-  platform::SdlClock clock;
-  platform::SdlDisplay display(data + "/pictures/icon.png");
   shell::Assets assets;
-  if (!assets.open(data, error)) {
+  if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error) ||
+      !assets.open(data, error)) {
     display.message("Error", error.c_str());
     return 1;
   }
+  platform::SdlClock realClock;
+  platform::PausingClock clock(realClock);
   platform::SdlMedia media(folder, data + "/sound");
-  platform::SdlEvents events(display);
-  platform::Random random(&clock, clock.ticks());
-  platform::Random walkerRandom(&clock, clock.ticks());
+  platform::Random random(&realClock, realClock.ticks());
+  platform::Random walkerRandom(&realClock, realClock.ticks());
   platform::SdlClipboard clipboard;
   shell::Services services{clock,  random, walkerRandom, media,     display,
                            assets, folder, {},           &clipboard};
   shell::Program program(services);
-  services.letEventsIn = [&] { takeEvents(events, program, 0); };
+  Window window(display, clock, program);
+  services.letEventsIn = [&window] { window.takeEvents(0); };
 
   program.start();
   bool preparing = true;  // the first picture waits neither for the game's nor for the audio device
   while (!program.ended()) {
-    const platform::DamageList& changed = program.paint();
-    if (!changed.empty()) display.present(program.framebuffer(), changed.rects());
-    if (preparing) {
-      preparing = program.readAhead();
-      if (!preparing && !program.ended()) media.open();
-    }
-    const std::int64_t due = program.nextDue();
-    const std::int64_t now = clock.milliseconds();
-    takeEvents(events, program, preparing ? 0 : due < 0 ? -1 : due > now ? due - now : 0);
-    program.runTimers();
+    window.step(preparing);
+    if (!preparing || program.ended()) continue;
+    preparing = program.readAhead();
+    if (!preparing && !program.ended()) media.open();
   }
   return program.exitStatus();
 }

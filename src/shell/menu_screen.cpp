@@ -36,6 +36,7 @@ void MenuScreen::cue(sound::Cue cue) {
 void MenuScreen::showPanel(int panel) {
   form().centre(panel);
   form().show(panel);
+  program_.turnPage();
 }
 
 double MenuScreen::reachedMission() {

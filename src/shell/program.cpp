@@ -25,6 +25,7 @@ void Program::open(std::unique_ptr<Screen> screen) {
   if (screen_ != nullptr) closed_.push_back(std::move(screen_));
   screen_ = std::move(screen);
   desk_.open(screen_ ? &screen_->form() : nullptr, screen_.get());
+  turnPage();
 }
 
 bool Program::readAhead() {

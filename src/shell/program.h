@@ -29,6 +29,9 @@ class Program {
   int exitStatus() const { return exitStatus_; }
 
   platform::Desk& desk() { return desk_; }
+  /// Grows whenever another screen, or another panel of the menu, comes up under the pointer.
+  int pages() const { return pages_; }
+  void turnPage() { ++pages_; }
   /// The open screen; null once the program has ended.
   Screen* screen() { return screen_.get(); }
 
@@ -76,6 +79,7 @@ class Program {
   platform::Canvas canvas_;
   std::unique_ptr<Screen> screen_;
   std::vector<std::unique_ptr<Screen>> closed_;
+  int pages_ = 0;
   int depth_ = 0;
   bool ended_ = false;
   int exitStatus_ = 0;

@@ -245,6 +245,9 @@ TEST_F(DeskRules, ATooltipComesAfterARestAndGoesWithThePointerOrAPress) {
   EXPECT_EQ(desk_.tooltip(9000), "");
   moveAt(3000, {5, 5});
   moveAt(3000, at(kName, 5, 5));
+  desk_.pointerLeft();
+  EXPECT_EQ(desk_.tooltip(9000), "") << "the pointer is outside";
+  moveAt(3000, at(kName, 5, 5));
   form_.show(kHidden);
   EXPECT_EQ(desk_.tooltip(9000), "") << "covered meanwhile";
 }

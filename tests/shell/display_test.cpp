@@ -50,4 +50,28 @@ TEST(Display, NotGivenBackSaysSoAndEndsTheProgram) {
   }
 }
 
+TEST(Pages, TurnWithEveryScreenAndEveryPanelOfTheMenu) {
+  Play play;
+  int page = play.session().program().pages();
+  for (const char* step : {"click mainnew", "click stopen", "click opengo", "advance 500",
+                           "click gmmenu\nclick Command19"}) {
+    play.run(step);
+    EXPECT_GT(play.session().program().pages(), page) << step;
+    page = play.session().program().pages();
+  }
+  play.run("click maincredits\npointer 700 500\nadvance 1000\npointer 400 300");
+  EXPECT_EQ(play.session().program().pages(), page + 1);
+}
+
+TEST(EdgeScrolling, WaitsWhileAWindowForbidsIt) {
+  Play play;
+  play.run("click mainhelp\nadvance 500\npointer 0 300");
+  play.session().program().desk().setEdgeScrolling(false);
+  play.run("advance 100");
+  EXPECT_EQ(play("get scrollX"), "ok 0");
+  play.session().program().desk().setEdgeScrolling(true);
+  play.run("advance 50");
+  EXPECT_EQ(play("get scrollX"), "ok -128");
+}
+
 }  // namespace

@@ -10,6 +10,7 @@
 #include "platform/damage.h"
 #include "platform/png.h"
 #include "platform/sdl/hush.h"
+#include "platform/sdl/message_window.h"
 #include "platform/sdl/window_manager.h"
 #include "platform/wrap_columns.h"
 
@@ -46,11 +47,17 @@ Size windowedSize(Size desktop) {
 
 }  // namespace
 
-SdlDisplay::SdlDisplay(std::string icon) : icon_(std::move(icon)) {}
+SdlDisplay::SdlDisplay(std::string icon, std::string font)
+    : icon_(std::move(icon)), font_(std::move(font)) {}
 
 SdlDisplay::~SdlDisplay() {
   closeWindow();
+  stopVideo();
+}
+
+void SdlDisplay::stopVideo() {
   if (videoStarted_) SDL_QuitSubSystem(SDL_INIT_VIDEO);
+  videoStarted_ = false;
 }
 
 bool SdlDisplay::startVideo() {
@@ -68,8 +75,7 @@ bool SdlDisplay::startVideo() {
   // Where there is no display the library may take a driver that shows nothing, unasked.
   if (SDL_getenv("SDL_VIDEODRIVER") == nullptr && (driver == "offscreen" || driver == "dummy")) {
     failure_ = "there is no display";
-    SDL_QuitSubSystem(SDL_INIT_VIDEO);
-    videoStarted_ = false;
+    stopVideo();
     return false;
   }
   if (driver == "x11") managed_ = windowManagerRuns();
@@ -100,23 +106,24 @@ bool SdlDisplay::openAnyWindow() {
   const bool straight = std::string_view(SDL_GetCurrentVideoDriver()) == "x11";
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, straight ? "0" : nullptr);
   if (openWindow()) return true;
-  // There is no such surface for a display of 10 bits a channel; a renderer can still serve it.
+  if (!straight) return false;
+  // There is no such surface for a display of 10 bits a channel, which a renderer can still serve. The
+  // library looks at the hint once in the life of its video system.
+  stopVideo();
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, nullptr);
-  return straight && openWindow();
+  return startVideo() && openWindow();
 }
 
 bool SdlDisplay::openWindow() {
-  SDL_Rect desktop{0, 0, kScreenWidth, kScreenHeight};
-  const int monitor = monitorOfPointer();
-  SDL_GetDisplayBounds(monitor, &desktop);
-  windowed_ = windowedSize({desktop.w, desktop.h});
+  const SDL_Rect monitor = desktop();
   if (managed_) {
-    window_ = SDL_CreateWindow(
-        kTitle, SDL_WINDOWPOS_CENTERED_DISPLAY(monitor), SDL_WINDOWPOS_CENTERED_DISPLAY(monitor),
-        windowed_.width, windowed_.height, SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
+    const Size size = windowedSize({monitor.w, monitor.h});
+    const int centre = SDL_WINDOWPOS_CENTERED_DISPLAY(monitorOfPointer());
+    window_ = SDL_CreateWindow(kTitle, centre, centre, size.width, size.height,
+                               SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_RESIZABLE);
   } else {
     window_ =
-        SDL_CreateWindow(kTitle, desktop.x, desktop.y, desktop.w, desktop.h, SDL_WINDOW_BORDERLESS);
+        SDL_CreateWindow(kTitle, monitor.x, monitor.y, monitor.w, monitor.h, SDL_WINDOW_BORDERLESS);
   }
   if (window_ == nullptr || SDL_GetWindowSurface(window_) == nullptr) {
     failure_ = SDL_GetError();
@@ -127,8 +134,49 @@ bool SdlDisplay::openWindow() {
   SDL_SetWindowMinimumSize(window_, kScreenWidth / 2, kScreenHeight / 2);
   SDL_SetWindowMouseGrab(window_, SDL_TRUE);
   setIcon();
+  if (!managed_) watchScreen(window_);
   rearrange();
   return true;
+}
+
+/// The monitor that shows the window, or is to show it.
+SDL_Rect SdlDisplay::desktop() const {
+  if (screen_ != Size{}) return {0, 0, screen_.width, screen_.height};
+  SDL_Rect bounds{0, 0, kScreenWidth, kScreenHeight};
+  SDL_GetDisplayBounds(window_ != nullptr ? SDL_GetWindowDisplayIndex(window_) : monitorOfPointer(),
+                       &bounds);
+  return bounds;
+}
+
+/// Puts the window where a window manager would have put it.
+void SdlDisplay::place() {
+  SDL_Rect place = desktop();
+  if (!full_) {
+    const Size size = windowedSize({place.w, place.h});
+    place.x += (place.w - size.width) / 2;
+    place.y += (place.h - size.height) / 2;
+    place.w = size.width;
+    place.h = size.height;
+  }
+  SDL_SetWindowPosition(window_, place.x, place.y);
+  SDL_SetWindowSize(window_, place.w, place.h);
+}
+
+void SdlDisplay::followScreen(const SDL_Event& event) {
+  if (window_ == nullptr || !newScreenSize(event, screen_)) return;
+  place();
+  rearrange();
+}
+
+bool SdlDisplay::hidden() const {
+  return window_ != nullptr &&
+         (SDL_GetWindowFlags(window_) & (SDL_WINDOW_MINIMIZED | SDL_WINDOW_HIDDEN)) != 0;
+}
+
+bool SdlDisplay::focused() const {
+  // Without a window manager there is nobody to give the focus to a window, or to take it.
+  return !managed_ ||
+         (window_ != nullptr && (SDL_GetWindowFlags(window_) & SDL_WINDOW_INPUT_FOCUS) != 0);
 }
 
 void SdlDisplay::closeWindow() {
@@ -157,16 +205,7 @@ void SdlDisplay::toggleFullScreen() {
   if (managed_) {
     SDL_SetWindowFullscreen(window_, full_ ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
   } else {
-    SDL_Rect place{0, 0, kScreenWidth, kScreenHeight};
-    SDL_GetDisplayBounds(SDL_GetWindowDisplayIndex(window_), &place);
-    if (!full_) {
-      place.x += (place.w - windowed_.width) / 2;
-      place.y += (place.h - windowed_.height) / 2;
-      place.w = windowed_.width;
-      place.h = windowed_.height;
-    }
-    SDL_SetWindowPosition(window_, place.x, place.y);
-    SDL_SetWindowSize(window_, place.w, place.h);
+    place();
   }
   rearrange();
 }
@@ -241,8 +280,15 @@ void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> chang
   }
 }
 
+bool SdlDisplay::openForMessage() {
+  return window_ != nullptr || (startVideo() && openAnyWindow());
+}
+
+// The library's own box comes last: it needs fonts of the X server, which many a desktop of today
+// does not have.
 void SdlDisplay::message(const char* title, const char* text) {
   std::fprintf(stderr, "%s: %s\n", title, text);
+  if (openForMessage() && showMessage(*this, font_, title, text)) return;
   const Hush hush;
   SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, title, wrapColumns(text, kMessageColumns).c_str(),
                            window_);

@@ -8,14 +8,17 @@
 #include "platform/display.h"
 #include "platform/scaler.h"
 
+struct SDL_Rect;
 struct SDL_Window;
+union SDL_Event;
 
 namespace platform {
 
 class SdlDisplay : public Display {
  public:
-  /// `icon` is the path of a PNG for the window; a missing one is no fault. Nothing is opened yet.
-  explicit SdlDisplay(std::string icon);
+  /// Paths of a PNG for the window, where a missing one is no fault, and of the font for messages.
+  /// Nothing is opened yet.
+  SdlDisplay(std::string icon, std::string font);
   ~SdlDisplay() override;
   SdlDisplay(const SdlDisplay&) = delete;
   SdlDisplay& operator=(const SdlDisplay&) = delete;
@@ -31,6 +34,13 @@ class SdlDisplay : public Display {
   const std::string& failure() const { return failure_; }
 
   // For the events.
+  /// Nobody can see the window: it is minimised or hidden.
+  bool hidden() const;
+  bool focused() const;
+  /// The window fills the screen.
+  bool full() const { return full_; }
+  /// The screen has another size, as an event of the window system says.
+  void followScreen(const SDL_Event& event);
   void toggleFullScreen();
   /// The window's size may have changed, and what was on it may be gone.
   void rearrange();
@@ -40,22 +50,28 @@ class SdlDisplay : public Display {
 
  private:
   bool startVideo();
+  void stopVideo();
   bool openAnyWindow();
   bool openWindow();
   void closeWindow();
   void setIcon();
 
+  bool openForMessage();
+  SDL_Rect desktop() const;
+  void place();
+
   std::string icon_;
+  std::string font_;
   std::string failure_;
   SDL_Window* window_ = nullptr;
   std::unique_ptr<Scaler> scaler_;
   Size windowSize_{};
   bool videoStarted_ = false;
   bool barsShown_ = false;
-  bool managed_ =
-      true;  // somebody answers a wish for full screen; else the window covers it by itself
+  // Somebody answers a wish for full screen; else the window covers the screen by itself.
+  bool managed_ = true;
   bool full_ = true;
-  Size windowed_{};  // its size when it does not fill the desktop
+  Size screen_{};  // once it has changed, where nobody but us follows that
 };
 
 }  // namespace platform

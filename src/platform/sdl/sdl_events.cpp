@@ -13,13 +13,6 @@ namespace platform {
 
 namespace {
 
-// A pointer that has left the window counts as a little way off the rim, so that it scrolls nothing.
-Point rested(Point point) {
-  constexpr int kRest = 16;
-  return {std::clamp(point.x, kRest, kScreenWidth - 1 - kRest),
-          std::clamp(point.y, kRest, kScreenHeight - 1 - kRest)};
-}
-
 struct KeyName {
   SDL_Keycode code;
   Key key;
@@ -60,6 +53,10 @@ bool switchesFullScreen(const SDL_Keysym& sym) {
   return sym.sym == SDLK_F11 || (sym.sym == SDLK_RETURN && (sym.mod & KMOD_ALT) != 0);
 }
 
+std::int64_t now() {
+  return static_cast<std::int64_t>(SDL_GetTicks64());
+}
+
 // A fast mouse moves many times between two looks; where it ended up is all that counts.
 bool moreMotionWaits() {
   SDL_Event next;
@@ -69,30 +66,32 @@ bool moreMotionWaits() {
 
 }  // namespace
 
+void SdlEvents::pointerAt(int x, int y, Event& into) {
+  const Point inWindow{x, y};
+  last_ = display_.pictured(inWindow);
+  into.kind = EventKind::pointer;
+  into.point = last_;
+  into.inside = display_.inWindow(inWindow);
+  edge_.moved(last_, into.inside, now());
+}
+
 bool SdlEvents::translate(const SDL_Event& event, Event& into) {
   into = {};
+  const Point before = last_;
   switch (event.type) {
     case SDL_MOUSEMOTION:
       // With a button held the moves go on beyond the window.
-      last_ = display_.pictured({event.motion.x, event.motion.y});
-      if (!display_.inWindow({event.motion.x, event.motion.y})) last_ = rested(last_);
-      if (moreMotionWaits()) return false;
-      into.kind = EventKind::pointer;
-      into.point = last_;
-      return true;
+      pointerAt(event.motion.x, event.motion.y, into);
+      return !moreMotionWaits();
     case SDL_MOUSEBUTTONDOWN:
-      if (held_ != 0) return false;
-      held_ = event.button.button;
-      into.kind = EventKind::down;
+      pointerAt(event.button.x, event.button.y, into);
       into.held = heldOf(SDL_GetModState());
-      into.point = last_ = display_.pictured({event.button.x, event.button.y});
-      return true;
+      if (presses_.down(event.button.button, now())) into.kind = EventKind::down;
+      return into.kind == EventKind::down || !(last_ == before);
     case SDL_MOUSEBUTTONUP:
-      if (held_ != event.button.button) return false;
-      held_ = 0;
-      into.kind = EventKind::up;
-      into.point = last_ = display_.pictured({event.button.x, event.button.y});
-      return true;
+      pointerAt(event.button.x, event.button.y, into);
+      if (presses_.up(event.button.button)) into.kind = EventKind::up;
+      return into.kind == EventKind::up || !(last_ == before);
     case SDL_MOUSEWHEEL:
       into.kind = EventKind::wheel;
       into.steps = event.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.wheel.y : event.wheel.y;
@@ -113,6 +112,10 @@ bool SdlEvents::translate(const SDL_Event& event, Event& into) {
       return keyOf(event.key, into.key);
     case SDL_WINDOWEVENT:
       return translateWindow(event, into);
+    case SDL_SYSWMEVENT:
+      display_.followScreen(event);
+      into.kind = EventKind::redraw;
+      return true;
     case SDL_QUIT:
       into.kind = EventKind::quit;
       return true;
@@ -125,27 +128,32 @@ bool SdlEvents::translateWindow(const SDL_Event& event, Event& into) {
   switch (event.window.event) {
     case SDL_WINDOWEVENT_EXPOSED:
     case SDL_WINDOWEVENT_SIZE_CHANGED:
+    case SDL_WINDOWEVENT_SHOWN:
     case SDL_WINDOWEVENT_RESTORED:
       display_.rearrange();
       into.kind = EventKind::redraw;
       return true;
     case SDL_WINDOWEVENT_LEAVE:
+      edge_.left();
       into.kind = EventKind::pointer;
-      into.point = last_ = rested(last_);
+      into.point = last_;
+      into.inside = false;
       return true;
+    case SDL_WINDOWEVENT_MINIMIZED:
+    case SDL_WINDOWEVENT_HIDDEN:
+      return true;  // the loop looks whether anybody sees the game
     default:
       return false;
   }
 }
 
 bool SdlEvents::next(Event& into, std::int64_t timeout) {
-  const Uint64 start = SDL_GetTicks64();
+  const std::int64_t start = now();
   for (;;) {
     int rest = -1;
     if (timeout >= 0) {
-      const auto passed = static_cast<std::int64_t>(SDL_GetTicks64() - start);
-      rest = static_cast<int>(
-          std::clamp<std::int64_t>(timeout - passed, 0, std::numeric_limits<int>::max()));
+      const std::int64_t left = timeout - (now() - start);
+      rest = static_cast<int>(std::clamp<std::int64_t>(left, 0, std::numeric_limits<int>::max()));
     }
     SDL_Event event;
     if ((rest < 0 ? SDL_WaitEvent(&event) : SDL_WaitEventTimeout(&event, rest)) == 0) {
@@ -153,6 +161,43 @@ bool SdlEvents::next(Event& into, std::int64_t timeout) {
       return false;
     }
     if (translate(event, into)) return true;
+  }
+}
+
+void SdlEvents::screenOpened() {
+  presses_.screenOpened(now());
+}
+
+bool SdlEvents::edgeScrolling() {
+  edge_.setFocus(display_.focused());
+  edge_.setFull(display_.full());
+  return edge_.scrolls(now());
+}
+
+void deliver(const Event& event, Desk& desk) {
+  switch (event.kind) {
+    case EventKind::pointer:
+      desk.pointerMoved(event.point);
+      if (!event.inside) desk.pointerLeft();
+      break;
+    case EventKind::down:
+      desk.buttonDown(event.point, event.held);
+      break;
+    case EventKind::up:
+      desk.buttonUp(event.point);
+      break;
+    case EventKind::wheel:
+      desk.wheel(event.steps);
+      break;
+    case EventKind::text:
+      desk.type(event.text.data());
+      break;
+    case EventKind::key:
+      desk.key(event.key, event.held);
+      break;
+    case EventKind::redraw:
+    case EventKind::quit:
+      break;
   }
 }
 

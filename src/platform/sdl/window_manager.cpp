@@ -1,9 +1,20 @@
 #include "platform/sdl/window_manager.h"
 
+#include <SDL.h>
+#include <SDL_syswm.h>
 #include <X11/Xatom.h>
-#include <X11/Xlib.h>
 
 namespace platform {
+
+namespace {
+
+/// Every event of X comes as one of these; all others are kept out of the queue.
+int keepScreenChanges(void*, SDL_Event* event) {
+  Size size;
+  return event->type != SDL_SYSWMEVENT || newScreenSize(*event, size) ? 1 : 0;
+}
+
+}  // namespace
 
 bool windowManagerRuns() {
   Display* const display = XOpenDisplay(nullptr);
@@ -19,6 +30,29 @@ bool windowManagerRuns() {
   if (value != nullptr) XFree(value);
   XCloseDisplay(display);
   return result == Success && count == 1;
+}
+
+void watchScreen(SDL_Window* window) {
+  SDL_SysWMinfo info;
+  SDL_VERSION(&info.version);
+  if (!SDL_GetWindowWMInfo(window, &info) || info.subsystem != SDL_SYSWM_X11) return;
+  Display* const display = info.info.x11.display;
+  XWindowAttributes root{};
+  XGetWindowAttributes(display, DefaultRootWindow(display), &root);
+  XSelectInput(display, DefaultRootWindow(display), root.your_event_mask | StructureNotifyMask);
+  SDL_SetEventFilter(keepScreenChanges, nullptr);
+  SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE);
+}
+
+bool newScreenSize(const SDL_Event& event, Size& size) {
+  if (event.type != SDL_SYSWMEVENT || event.syswm.msg->subsystem != SDL_SYSWM_X11) return false;
+  const XEvent& change = event.syswm.msg->msg.x11.event;
+  if (change.type != ConfigureNotify ||
+      change.xconfigure.window != DefaultRootWindow(change.xconfigure.display)) {
+    return false;
+  }
+  size = {change.xconfigure.width, change.xconfigure.height};
+  return true;
 }
 
 }  // namespace platform
