@@ -12,8 +12,7 @@ GameScreen::GameScreen(Program& program)
       program_(program),
       game_(std::make_unique<core::GameState>()),
       stage_{*game_, program.values(), program.services().assets.pictures, program.canvas()},
-      scene_{*game_, program.values(), form(),           timers(),
-             stage_, program.desk(),   program.media()} {
+      scene_{*game_, program.values(), form(), timers(), stage_, program.desk(), program.media()} {
   play::writeTooltips(form());
   form()[play::ui::picScroll].canvas = &stage_.canvas;
   stage_.canvas.clear();
