@@ -18,6 +18,8 @@ using platform::kNoParent;
 using platform::kSingle;
 using platform::Rect;
 
+using platform::Face;
+
 inline constexpr Color kPanel{140, 179, 242};
 inline constexpr Color kPlate{203, 221, 241};
 
@@ -39,6 +41,13 @@ constexpr ControlDesign bordered(ControlDesign design) {
 }
 constexpr ControlDesign hidden(ControlDesign design) {
   design.visible = false;
+  return design;
+}
+
+/// The same row painted on something of its own, at `box` in the parent.
+constexpr ControlDesign faced(Face face, Rect box, ControlDesign design) {
+  design.face = face;
+  design.faceBox = box;
   return design;
 }
 

@@ -25,10 +25,26 @@ constexpr ControlDesign panel(const char* name, Rect place, const char* caption)
 constexpr ControlDesign wholeImage(const char* name, int parent, int width, int height) {
   return image(name, parent, {0, 0, width, height});
 }
-// A label that acts as a button of the right-hand panel.
-constexpr ControlDesign knob(const char* name, int parent, Rect place, const char* text,
-                             int index = kSingle) {
+constexpr ControlDesign centred(const char* name, int parent, Rect place, const char* text,
+                                int index = kSingle) {
   return label(name, parent, place, text, FontSize::pt11, Align::centre, index);
+}
+// A label that acts as a button of the right-hand panel, and the key that shows it.
+constexpr ControlDesign knob(const char* name, int parent, Rect place, Rect key, const char* text,
+                             int index = kSingle) {
+  return faced(Face::key, key, centred(name, parent, place, text, index));
+}
+// The key in a plate of its own, and those of the palette: two columns, as wide as the longest name.
+constexpr Rect kWideKey{9, 4, 127, 26};
+constexpr Rect leftKey(int top, int height) {
+  return {2, top, 70, height};
+}
+constexpr Rect rightKey(int top, int height) {
+  return {73, top, 70, height};
+}
+// A key of the palette; its place differs a little from tool to tool.
+constexpr ControlDesign tool(int index, Rect place, Rect key, const char* text) {
+  return knob("Command1", Frame1, place, key, text, index);
 }
 // A label with a background of its own, as in the rows of a table.
 constexpr ControlDesign cell(const char* name, int parent, Rect place, const char* text,
@@ -45,7 +61,9 @@ constexpr ControlDesign line(int index) {
 }
 
 constexpr ControlDesign view(int n, const char* text) {
-  return knob("seer", Frame17, {24 * n, 56, 25, 25}, text, n);
+  // Six keys of one width: the row is a pixel wider than they are.
+  const Rect key{3 + 23 * n + (n > 2 ? 1 : 0), 54, 23, 23};
+  return knob("seer", Frame17, {24 * n, 56, 25, 25}, key, text, n);
 }
 constexpr ControlDesign month(const char* name, int column) {
   return cell(name, Frame4, {144 + 72 * column, 8, 73, 19}, "", FontSize::pt9, Align::centre);
@@ -78,20 +96,22 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[tarih] = label("tarih", Frame14, {472, 8, 140, 20}, "Date: ");
 
   t[Frame6] = frame("Frame6", kNoParent, {624, -16, 177, 618}, kPanel);
+  t[leftpost] = image("leftpost", Frame6, {0, 16, 8, 600});
+  t[rightpost] = image("rightpost", Frame6, {169, 16, 8, 600});
   t[Frame16] = frame("Frame16", Frame6, {16, 32, 145, 55}, kPanel);
   t[Image10] = wholeImage("Image10", Frame16, 145, 55);
   t[Frame17] = frame("Frame17", Frame6, {16, 96, 145, 81}, kPanel);
   t[Image11] = wholeImage("Image11", Frame17, 145, 80);
   t[Label8] = label("Label8", Frame17, {8, 4, 129, 22}, "VIEW MODE", FontSize::pt12, Align::centre);
-  t[currentview] = knob("currentview", Frame17, {8, 29, 129, 22}, "Normal view");
+  t[currentview] = centred("currentview", Frame17, {8, 28, 129, 20}, "Normal view");
   constexpr const char* kViews[] = {"N", "M", "S", "T", "C", "D"};
   for (int n = 0; n < 6; ++n) t[seer + n] = view(n, kViews[n]);
   t[Frame15] = frame("Frame15", Frame6, {16, 184, 145, 34}, kPanel);
   t[Image5] = wholeImage("Image5", Frame15, 145, 34);
-  t[Statusreport] = knob("Statusreport", Frame15, {5, 5, 135, 23}, "STATUS");
+  t[Statusreport] = knob("Statusreport", Frame15, {5, 5, 135, 23}, kWideKey, "STATUS");
   t[Frame2] = frame("Frame2", Frame6, {16, 224, 145, 34}, kPanel);
   t[Image4] = wholeImage("Image4", Frame2, 145, 34);
-  t[Command5] = knob("Command5", Frame2, {5, 7, 135, 21}, "PREFERENCES");
+  t[Command5] = knob("Command5", Frame2, {5, 7, 135, 21}, kWideKey, "PREFERENCES");
   t[Frame1] = frame("Frame1", Frame6, {16, 264, 145, 258}, kPanel);
   t[Image6] = wholeImage("Image6", Frame1, 145, 258);
   t[Label4] =
@@ -100,25 +120,25 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                           FontSize::pt9, Align::centre);
   t[buildprice] =
       label("buildprice", Frame1, {16, 72, 113, 17}, "Price:5", FontSize::pt9, Align::centre);
-  t[namlbl] = knob("namlbl", Frame1, {8, 64, 129, 25}, "");
-  t[inform] = knob("inform", Frame1, {8, 4, 57, 19}, "INFO");
-  t[building] = knob("building", Frame1, {80, 4, 57, 19}, "BUILD");
-  t[Command1 + 0] = knob("Command1", Frame1, {77, 103, 65, 21}, "Residence", 0);
-  t[Command1 + 1] = knob("Command1", Frame1, {80, 134, 57, 21}, "Market", 1);
-  t[Command1 + 2] = knob("Command1", Frame1, {80, 166, 57, 21}, "School", 2);
-  t[Command1 + 3] = knob("Command1", Frame1, {80, 198, 57, 21}, "Tavern", 3);
-  t[Command1 + 4] = knob("Command1", Frame1, {9, 166, 57, 21}, "Church", 4);
-  t[Command1 + 5] = knob("Command1", Frame1, {9, 198, 57, 21}, "Doctor", 5);
-  t[Command1 + 6] = knob("Command1", Frame1, {8, 229, 129, 21}, "Demolish", 6);
-  t[Command1 + 7] = knob("Command1", Frame1, {8, 102, 57, 21}, "Road", 7);
-  t[Command1 + 8] = knob("Command1", Frame1, {8, 134, 57, 21}, "Farm", 8);
+  t[namlbl] = centred("namlbl", Frame1, {8, 64, 129, 25}, "");
+  t[inform] = knob("inform", Frame1, {8, 4, 57, 19}, leftKey(2, 24), "INFO");
+  t[building] = knob("building", Frame1, {80, 4, 57, 19}, rightKey(2, 24), "BUILD");
+  t[Command1 + 0] = tool(0, {77, 103, 65, 21}, rightKey(101, 25), "Residence");
+  t[Command1 + 1] = tool(1, {80, 134, 57, 21}, rightKey(133, 25), "Market");
+  t[Command1 + 2] = tool(2, {80, 166, 57, 21}, rightKey(165, 25), "School");
+  t[Command1 + 3] = tool(3, {80, 198, 57, 21}, rightKey(197, 25), "Tavern");
+  t[Command1 + 4] = tool(4, {9, 166, 57, 21}, leftKey(165, 25), "Church");
+  t[Command1 + 5] = tool(5, {9, 198, 57, 21}, leftKey(197, 25), "Doctor");
+  t[Command1 + 6] = tool(6, {8, 229, 129, 21}, {2, 228, 141, 26}, "Demolish");
+  t[Command1 + 7] = tool(7, {8, 102, 57, 21}, leftKey(101, 25), "Road");
+  t[Command1 + 8] = tool(8, {8, 134, 57, 21}, leftKey(133, 25), "Farm");
   t[Frame9] = frame("Frame9", Frame6, {16, 528, 145, 34}, kPanel);
   t[Image9] = wholeImage("Image9", Frame9, 145, 34);
-  t[gmmenu] = knob("gmmenu", Frame9, {5, 5, 135, 23}, "GAME MENU");
+  t[gmmenu] = knob("gmmenu", Frame9, {5, 5, 135, 23}, kWideKey, "GAME MENU");
   t[Frame7] = frame("Frame7", Frame6, {16, 568, 145, 34}, kPanel);
   t[Image7] = wholeImage("Image7", Frame7, 145, 34);
   // The caption is in the middle of its key, and presses count where it lights, a little higher.
-  t[Label3] = knob("Label3", Frame6, {21, 574, 135, 22}, "GOALS");
+  t[Label3] = knob("Label3", Frame6, {21, 574, 135, 22}, moved(kWideKey, 16, 568), "GOALS");
   t[Label3].press = {21, 565, 135, 23};
 
   t[tileinfo] = hidden(frame("tileinfo", kNoParent, {kParked, 347, 141, 157}, kPanel));
@@ -274,7 +294,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
   t[bilgi] = panel("bilgi", {kParked, 200, 297, 153}, "GAME MENU");
   t[Frame3] = frame("Frame3", bilgi, {24, 24, 249, 81}, kRow);
-  t[bilgilabel] = label("bilgilabel", Frame3, {4, 4, 241, 73}, "");
+  t[Frame3].opaque = false;  // the sheet inside keeps clear of the title and the button
+  t[bilgilabel] =
+      faced(Face::sheet, {0, 8, 249, 70}, label("bilgilabel", Frame3, {9, 13, 231, 60}, ""));
   t[Command21] = button("Command21", bilgi, {112, 104, 81, 25}, "OK");
 
   t[mscompfrm] = hidden(frame("mscompfrm", kNoParent, {kParked, 200, 257, 121}, kFloating));
@@ -296,13 +318,6 @@ static_assert(complete(kTable));
 
 std::span<const ControlDesign> gameControls() {
   return kTable;
-}
-
-platform::Rect paletteKey(int index) {
-  constexpr Rect kKeys[] = {{76, 102, 66, 23}, {76, 134, 66, 23}, {76, 166, 66, 23},
-                            {76, 198, 66, 23}, {4, 166, 66, 23},  {4, 198, 66, 23},
-                            {4, 229, 138, 22}, {4, 102, 66, 23},  {4, 134, 66, 23}};
-  return kKeys[index];
 }
 
 }  // namespace core

@@ -22,6 +22,8 @@ enum Id : int {
   tarih,
   // Right-hand panel.
   Frame6,
+  leftpost,
+  rightpost,
   Frame16,
   Image10,
   Frame17,
@@ -170,8 +172,5 @@ enum Id : int {
 }  // namespace game_control
 
 std::span<const platform::ControlDesign> gameControls();
-
-/// The key in the palette's picture on which the name of tool `index`, 0..8, is written.
-platform::Rect paletteKey(int index);
 
 }  // namespace core

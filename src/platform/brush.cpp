@@ -1,7 +1,10 @@
 #include "platform/brush.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
+
+#include "platform/utf8.h"
 
 namespace platform {
 
@@ -34,16 +37,59 @@ void Brush::edges(const Rect& r, Color topLeft, Color bottomRight) const {
   fill({r.right() - 1, r.top, 1, r.height}, bottomRight);
 }
 
-void Brush::raised(const Rect& r, Color back) const {
-  edges(r, mix(back, kWhite, 65), mix(back, kInk, 65));
-  edges({r.left + 1, r.top + 1, r.width - 2, r.height - 2}, mix(back, kWhite, 35),
-        mix(back, kInk, 28));
+void Brush::look(const Rect& rect, Look look) const {
+  const LookDesign& design = lookDesign(look);
+  if (!design.hollow) {
+    within(rect).patch(rect, look);
+    return;
+  }
+  const int rim = design.rim;
+  const int between = rect.height - 2 * rim;
+  within({rect.left, rect.top, rect.width, rim}).patch(rect, look);
+  within({rect.left, rect.top + rim, rim, between}).patch(rect, look);
+  within({rect.right() - rim, rect.top + rim, rim, between}).patch(rect, look);
+  within({rect.left, rect.bottom() - rim, rect.width, rim}).patch(rect, look);
 }
 
-void Brush::sunken(const Rect& r, Color back) const {
-  edges(r, mix(back, kInk, 45), mix(back, kWhite, 65));
-  edges({r.left + 1, r.top + 1, r.width - 2, r.height - 2}, mix(back, kInk, 22),
-        mix(back, kWhite, 25));
+void Brush::patch(const Rect& rect, Look look) const {
+  if (clip_.empty()) return;
+  const LookDesign& design = lookDesign(look);
+  const Surface& source = skin_[look];
+  const int left = std::min(design.left, rect.width / 2);
+  const int right = std::min(design.right, rect.width - left);
+  const int top = std::min(design.top, rect.height / 2);
+  const int bottom = std::min(design.bottom, rect.height - top);
+  const Rect middle{design.left, design.top, source.width() - design.left - design.right,
+                    source.height() - design.top - design.bottom};
+
+  const auto copy = [&](int x, int y, const Rect& part) {
+    const Rect area = intersection({x, y, part.width, part.height}, clip_);
+    if (area.empty()) return;
+    BitBlt(target_, area.left, area.top, area.width, area.height, source, part.left + area.left - x,
+           part.top + area.top - y, SRCCOPY);
+  };
+  const auto rows = [&](int y, int from, int height) {
+    copy(rect.left, y, {0, from, left, height});
+    const int end = rect.right() - right;
+    for (int x = rect.left + left; x < end; x += middle.width) {
+      copy(x, y, {middle.left, from, std::min(middle.width, end - x), height});
+    }
+    copy(end, y, {source.width() - right, from, right, height});
+  };
+
+  rows(rect.top, 0, top);
+  const int end = rect.bottom() - bottom;
+  const int begin = rect.top + top;
+  if (design.shaded) {
+    for (int y = begin; y < end; ++y) {
+      rows(y, middle.top + (y - begin) * middle.height / (end - begin), 1);
+    }
+  } else {
+    for (int y = begin; y < end; y += middle.height) {
+      rows(y, middle.top, std::min(middle.height, end - y));
+    }
+  }
+  rows(end, source.height() - bottom, bottom);
 }
 
 void Brush::line(Point from, Point to, Color color) const {
@@ -108,6 +154,30 @@ void Brush::line(const Rect& rect, std::string_view caption, FontSize size, Colo
     x += align == Align::right ? room : room / 2;
   }
   text(x, rect.top + (rect.height - lineHeight(size)) / 2, caption, size, color);
+}
+
+void Brush::caption(const Rect& key, std::string_view text, FontSize size, Color color) const {
+  constexpr int kRoom = 6;  // from the letters to the end of the key, its dark edge included
+  constexpr int kOwn = 2;   // of a caption's width its letters leave this free at its ends
+  while (text.ends_with(' ')) text.remove_suffix(1);
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  const int width = font_.width(text, size);
+  const int gaps = static_cast<int>(text.size()) - 1;
+  const int closed = std::clamp(width - kOwn - (key.width - 2 * kRoom), 0, std::max(gaps, 0));
+  int x = key.left + (key.width - width + closed) / 2;
+  const int y = key.top + (key.height - lineHeight(size)) / 2;
+  if (closed == 0) {
+    font_.draw(target_, clip_, x, y, text, size, color);
+    return;
+  }
+  for (int i = 0; !text.empty(); ++i) {
+    std::string_view rest = text;
+    takeCharacter(rest);
+    const std::string_view letter = text.substr(0, text.size() - rest.size());
+    font_.draw(target_, clip_, x, y, letter, size, color);
+    x += font_.width(letter, size) - (closed * (i + 1) / gaps - closed * i / gaps);
+    text = rest;
+  }
 }
 
 }  // namespace platform

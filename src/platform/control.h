@@ -31,6 +31,14 @@ enum class ControlKind : std::uint8_t {
 
 enum class Align : std::uint8_t { left, centre, right };
 
+/// What a label is painted on, where that is not its own box.
+enum class Face : std::uint8_t {
+  none,
+  key,       // a key of the side panel: down while pressed or held, lit while its text is yellow
+  plainKey,  // the same with a face of the label's own colour
+  sheet,     // a sheet to read from
+};
+
 /// How a frame shows its caption.
 enum class Heading : std::uint8_t {
   none,
@@ -58,6 +66,8 @@ struct ControlDesign {
   bool border = false;  // a single line around it
   bool visible = true;
   Heading heading = Heading::none;
+  Face face = Face::none;
+  Rect faceBox{};               // in the parent; may reach beyond `place`, which alone is pressed
   const char* image = nullptr;  // name of the picture of an image control
   Rect press{};  // where in the parent it takes the pointer, if that is not its place
 };
@@ -79,11 +89,11 @@ struct Control {
   bool border = false;
   bool visible = true;  // its own flag; it is seen when all that hold it are visible too
   bool checked = false;
-  Point from{};  // end points of a line, in pixels of its parent
+  bool held = false;  // a key that stays down
+  Point from{};       // end points of a line, in pixels of its parent
   Point to{};
   int rank = 0;                    // the higher of two siblings lies in front
   const Surface* image = nullptr;  // of an image control; at the right end of a label's line
-  Rect heldKey{};  // of an image: the key in its picture that is held down, or an empty one
   Canvas* canvas = nullptr;
   ListContent* list = nullptr;
 };

@@ -7,26 +7,31 @@ namespace platform {
 
 namespace {
 
-constexpr Color kFace{206, 218, 246};       // of buttons, where the design names no colour
-constexpr Color kFieldEdge{150, 168, 220};  // the ground that text boxes and lists lie in
-constexpr Color kChosen{70, 106, 190};      // the selected entry of a list
-constexpr Color kTitleTint{84, 118, 214};
-constexpr Color kKeyShade{66, 94, 158};
-constexpr Color kKeyLight{190, 214, 250};
+constexpr Color kChosen{52, 86, 159};    // the selected entry of a list
+constexpr Color kBright{225, 238, 253};  // what etched lines show to the light
+constexpr Color kTrack{216, 200, 164};   // of a scroll bar
+constexpr Color kBrass{152, 112, 48};
 
 Rect inset(const Rect& r, int by) {
   return {r.left + by, r.top + by, r.width - 2 * by, r.height - 2 * by};
 }
 
+// A control on the screen itself, framed, with a shadow below it.
+bool isPanel(const Control& control) {
+  const ControlDesign& design = *control.design;
+  return design.parent == kNoParent && design.border && design.opaque;
+}
+
+Rect faceOf(const Control& control, const Rect& place) {
+  const ControlDesign& design = *control.design;
+  return moved(design.faceBox, place.left - design.place.left, place.top - design.place.top);
+}
+
 void paintTitle(const Brush& brush, const Control& control, const Rect& place) {
-  // With its edge the bar ends above row 24, where what a panel holds may begin.
-  const Rect bar{place.left + 2, place.top + 2, place.width - 4, 20};
-  if (control.design->opaque) {
-    brush.fillDown(bar, mix(control.back, kTitleTint, 18), mix(control.back, kTitleTint, 38));
-    brush.fill({bar.left, bar.bottom(), bar.width, 1}, mix(control.back, kInk, 35));
-    brush.fill({bar.left, bar.bottom() + 1, bar.width, 1}, mix(control.back, kWhite, 45));
-  }
-  brush.within(bar).line(bar, control.text, FontSize::pt14, control.fore, Align::centre);
+  // The strip ends above row 32, where what most panels hold begins.
+  const Rect strip{place.left + 4, place.top + 4, place.width - 8, 24};
+  if (control.design->opaque) brush.look(strip, Look::sheet);
+  brush.within(strip).line(strip, control.text, FontSize::pt14, control.fore, Align::centre);
 }
 
 void paintGroup(const Brush& brush, const Control& control, const Rect& place) {
@@ -34,8 +39,8 @@ void paintGroup(const Brush& brush, const Control& control, const Rect& place) {
   const int half = lineHeight(size) / 2;
   const Rect edge{place.left, place.top + half, place.width - 1, place.height - half - 1};
   if (control.border) {
-    brush.outline(moved(edge, 1, 1), mix(control.back, kWhite, 60));
-    brush.outline(edge, mix(control.back, kInk, 45));
+    brush.outline(moved(edge, 1, 1), kBright);
+    brush.outline(edge, kBrass);
   }
   if (control.text.empty()) return;
   const int width = brush.font().width(control.text, size);
@@ -51,50 +56,43 @@ void paintFrame(const Brush& brush, const Control& control, const Rect& place) {
     paintGroup(brush, control, place);
     return;
   }
-  if (control.border) {
-    // A panel stands out of the screen; a frame within a panel is let into it.
-    design.parent == kNoParent ? brush.raised(place, control.back)
-                               : brush.sunken(place, control.back);
-  }
+  // A panel stands out of the screen; a frame within a panel is let into it.
+  if (control.border) brush.look(place, isPanel(control) ? Look::frame : Look::inlay);
   if (design.heading == Heading::title) paintTitle(brush, control, place);
 }
 
-// A key of a painted plate, pushed in: in the shade, with round corners, its upper and left rim the
-// darkest.
-void paintHeldKey(const Brush& brush, const Rect& place) {
-  const Rect face = inset(place, 1);
-  for (int y = 0; y < face.height; ++y) {
-    const int cut = std::max(0, 2 - std::min(y, face.height - 1 - y));
-    brush.darken({face.left + cut, face.top + y, face.width - 2 * cut, 1});
+// A label that acts as a button.
+void paintKey(const Brush& brush, const Control& control, const Rect& key,
+              const ControlState& state) {
+  const bool lit = control.fore == kYellow;
+  const bool down = state.pressed || control.held;
+  if (control.design->face == Face::plainKey) {
+    const int shift = down ? 1 : 0;
+    brush.fill(key, control.back);
+    brush.look(key, lit || down ? Look::rimLit : Look::rim);
+    brush.line(moved(key, shift, shift), control.text, control.design->font, control.fore,
+               Align::centre);
+    return;
   }
-  brush.fill({face.left + 2, face.top, face.width - 4, 1}, kKeyShade);
-  brush.fill({face.left, face.top + 2, 1, face.height - 4}, kKeyShade);
-  brush.fill({face.left + 2, face.bottom(), face.width - 4, 1}, kKeyLight);
-  brush.fill({face.right(), face.top + 2, 1, face.height - 4}, kKeyLight);
+  brush.look(key, down ? lit ? Look::keyDown : Look::keyHeld : lit ? Look::keyLit : Look::key);
+  const int sink = down ? 1 : -1;  // a key that is up shows its lower side too
+  brush.caption({key.left, key.top + (sink + 1) / 2, key.width, key.height + sink - 1},
+                control.text, control.design->font, control.fore);
 }
 
-void paintLabel(const Brush& brush, const Control& control, const Rect& place) {
+// The text of a label, over as many lines as it takes.
+void paintText(const Brush& brush, const Control& control, const Rect& inside) {
   const ControlDesign& design = *control.design;
-  if (design.opaque) brush.fill(place, control.back);
-  if (control.border) brush.outline(place, mix(design.opaque ? control.back : kFace, kInk, 60));
-  if (control.image != nullptr) {
-    constexpr int kMargin = 6;
-    const int width = control.image->width();
-    brush.picture({place.right() - kMargin - width, place.top, width, place.height},
-                  *control.image);
-  }
   std::string_view text = control.text;
   if (text.empty()) return;
-  // A border that comes and goes moves no text.
-  const Rect inside = design.border ? inset(place, 2) : place;
   const int step = lineHeight(design.font);
   const std::string_view whole = text;
   std::string_view line = takeLine(text, inside.width, brush.font(), design.font);
   // Where no second line fits, the text stays one line, cut off by its box.
   constexpr int kSparable = 4;
-  if (text.empty() || place.height < 2 * step - kSparable) {
+  if (text.empty() || inside.height < 2 * step - kSparable) {
     Rect row = inside;
-    if (place.height > 2 * step && design.align != Align::centre) row.height = step;
+    if (inside.height > 2 * step && design.align != Align::centre) row.height = step;
     brush.line(row, whole, design.font, control.fore, design.align);
     return;
   }
@@ -105,12 +103,33 @@ void paintLabel(const Brush& brush, const Control& control, const Rect& place) {
   }
 }
 
+void paintLabel(const Brush& brush, const Control& control, const Rect& place,
+                const ControlState& state) {
+  const ControlDesign& design = *control.design;
+  if (design.face == Face::key || design.face == Face::plainKey) {
+    paintKey(brush, control, faceOf(control, place), state);
+    return;
+  }
+  if (design.face == Face::sheet) brush.look(faceOf(control, place), Look::sheet);
+  if (design.opaque) brush.fill(place, control.back);
+  if (control.border) {
+    isPanel(control) ? brush.look(place, Look::frame) : brush.outline(place, kBrass);
+  }
+  if (control.image != nullptr) {
+    constexpr int kMargin = 6;
+    const int width = control.image->width();
+    brush.picture({place.right() - kMargin - width, place.top, width, place.height},
+                  *control.image);
+  }
+  // A border that comes and goes moves no text.
+  paintText(brush.within(place), control, design.border ? inset(place, 2) : place);
+}
+
 void paintCheckBox(const Brush& brush, const Control& control, const Rect& place) {
   constexpr int kSize = 13;
   if (control.design->opaque) brush.fill(place, control.back);
   const Rect mark{place.left, place.top + (place.height - kSize) / 2, kSize, kSize};
-  brush.fill(mark, kWhite);
-  brush.sunken(mark, kFieldEdge);
+  brush.look(mark, Look::sheet);
   if (control.checked) {
     // A tick of seven columns, three pixels thick.
     constexpr int kRise[] = {2, 1, 0, 1, 2, 3, 4};
@@ -124,13 +143,11 @@ void paintCheckBox(const Brush& brush, const Control& control, const Rect& place
 }
 
 void paintDropDown(const Brush& brush, const Control& control, const Rect& place, bool open) {
-  brush.fill(place, kWhite);
-  brush.sunken(place, kFieldEdge);
+  brush.look(place, Look::sheet);
   const Rect inside = inset(place, 2);
   const Rect button{inside.right() - kScrollBarWidth, inside.top, kScrollBarWidth, inside.height};
-  brush.fill(button, kFace);
-  open ? brush.sunken(button, kFace) : brush.raised(button, kFace);
-  brush.arrow(moved(button, open ? 1 : 0, open ? 1 : 0), true, kInk);
+  brush.look(button, open ? Look::keyHeld : Look::key);
+  brush.arrow(moved(button, 0, open ? 0 : -1), true, kInk);
   std::string_view text = control.text;
   const ListContent& list = *control.list;
   if (list.selected >= 0 && list.selected < static_cast<int>(list.items.size())) {
@@ -153,8 +170,7 @@ void paintName(const Brush& brush, const Rect& place, std::string_view name, Fon
 }
 
 void paintFileList(const Brush& brush, const Control& control, const Rect& place) {
-  brush.fill(place, kWhite);
-  brush.sunken(place, kFieldEdge);
+  brush.look(place, Look::sheet);
   const ListContent& list = *control.list;
   const ListLayout layout = listLayout(place, list);
   const Brush rows = brush.within(layout.rows);
@@ -168,19 +184,15 @@ void paintFileList(const Brush& brush, const Control& control, const Rect& place
               control.design->font, chosen ? kWhite : control.fore);
   }
   if (!layout.bar) return;
-  brush.fill(layout.track, mix(kFace, kWhite, 45));
-  for (const Rect& part : {layout.up, layout.down, layout.thumb}) {
-    brush.fill(part, kFace);
-    brush.raised(part, kFace);
-  }
-  brush.arrow(layout.up, false, kInk);
-  brush.arrow(layout.down, true, kInk);
+  brush.fill(layout.track, kTrack);
+  for (const Rect& part : {layout.up, layout.down, layout.thumb}) brush.look(part, Look::key);
+  brush.arrow(moved(layout.up, 0, -1), false, kInk);
+  brush.arrow(moved(layout.down, 0, -1), true, kInk);
 }
 
 void paintTextBox(const Brush& brush, const Control& control, const Rect& place,
                   const ControlState& state) {
-  brush.fill(place, kWhite);
-  brush.sunken(place, kFieldEdge);
+  brush.look(place, Look::sheet);
   const FontSize size = control.design->font;
   const Rect inside = textBoxInside(place);
   const Brush within = brush.within(inside);
@@ -206,42 +218,37 @@ void paintTextBox(const Brush& brush, const Control& control, const Rect& place,
 
 }  // namespace
 
-void paintButton(const Brush& brush, const Rect& place, Color face, std::string_view caption,
-                 FontSize size, Color color, bool down) {
-  if (down) {
-    brush.fill(place, mix(face, kInk, 8));
-    brush.sunken(place, face);
-  } else {
-    brush.fillDown(place, mix(face, kWhite, 30), mix(face, kInk, 5));
-    brush.raised(place, face);
-  }
-  const int shift = down ? 1 : 0;
-  brush.within(inset(place, 2))
-      .line(moved(place, shift, shift), caption, size, color, Align::centre);
+Rect paintedBox(const Control& control, const Rect& place) {
+  if (control.design->face != Face::none) return boundingBox(place, faceOf(control, place));
+  return isPanel(control) ? withShadow(place) : place;
+}
+
+void paintButton(const Brush& brush, const Rect& place, std::string_view caption, FontSize size,
+                 Color color, bool down) {
+  brush.look(place, down ? Look::keyHeld : Look::key);
+  const int sink = down ? 1 : -1;
+  brush.line({place.left, place.top + (sink + 1) / 2, place.width, place.height + sink - 1},
+             caption, size, color, Align::centre);
 }
 
 void paintControl(const Brush& brush, const Control& control, const Rect& place,
                   const ControlState& state) {
   const ControlDesign& design = *control.design;
+  if (isPanel(control)) paintShadow(brush, place);
   const Brush within = brush.within(place);
   switch (design.kind) {
     case ControlKind::frame:
       paintFrame(within, control, place);
       break;
     case ControlKind::label:
-      paintLabel(within, control, place);
+      paintLabel(brush, control, place, state);
       break;
     case ControlKind::button:
-      paintButton(within, place, design.opaque ? control.back : kFace, control.text, design.font,
-                  control.fore, state.pressed);
+      paintButton(within, place, control.text, design.font, control.fore, state.pressed);
       break;
     case ControlKind::image:
       if (design.opaque) within.fill(place, control.back);
       if (control.image != nullptr) within.picture(place, *control.image);
-      if (control.border) within.raised(place, control.back);
-      if (!control.heldKey.empty()) {
-        paintHeldKey(within, moved(control.heldKey, place.left, place.top));
-      }
       break;
     case ControlKind::picture: {
       const Size size = control.canvas == nullptr ? Size{}
@@ -258,7 +265,7 @@ void paintControl(const Brush& brush, const Control& control, const Rect& place,
       break;
     case ControlKind::box:
       if (design.opaque) within.fill(place, control.back);
-      if (control.border) within.outline(place, mix(control.back, kInk, 35));
+      if (control.border) within.look(place, Look::inlay);
       break;
     case ControlKind::checkBox:
       paintCheckBox(within, control, place);

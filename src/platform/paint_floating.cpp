@@ -8,21 +8,19 @@ namespace platform {
 namespace {
 
 constexpr int kShadow = 4;
-constexpr Color kPaper{226, 233, 251};
-constexpr Color kTitleTop{92, 128, 214};
-constexpr Color kTitleBottom{62, 92, 176};
-constexpr Color kUnderPointer{206, 218, 246};
-constexpr Color kNote{255, 253, 226};
+constexpr Color kGround{203, 221, 241};  // of a message box
+constexpr Color kUnderPointer{52, 86, 159};
+constexpr Color kSelected{214, 196, 152};
 constexpr FontSize kNoteFont = FontSize::pt9;
 constexpr int kNoteWidth = 300;  // at which its text is wrapped
 constexpr int kNoteMargin = 6;
+
+}  // namespace
 
 void paintShadow(const Brush& brush, const Rect& place) {
   brush.darken({place.right(), place.top + kShadow, kShadow, place.height});
   brush.darken({place.left + kShadow, place.bottom(), place.width - kShadow, kShadow});
 }
-
-}  // namespace
 
 Rect withShadow(const Rect& place) {
   if (place.empty()) return place;
@@ -31,16 +29,15 @@ Rect withShadow(const Rect& place) {
 
 void paintOpenList(const Brush& brush, const Rect& place, const Control& control, int row) {
   paintShadow(brush, place);
-  brush.fill(place, kWhite);
-  brush.outline(place, mix(kUnderPointer, kInk, 60));
+  brush.look(place, Look::sheet);
   const ListContent& list = *control.list;
   Rect line{place.left + 1, place.top + 1, place.width - 2, kListRowHeight};
   for (std::size_t i = 0; i < list.items.size(); ++i) {
     const int entry = static_cast<int>(i);
     if (entry == row) {
-      brush.fill(line, kTitleBottom);
-    } else if (entry == list.selected) {
       brush.fill(line, kUnderPointer);
+    } else if (entry == list.selected) {
+      brush.fill(line, kSelected);
     }
     brush.within(line).line({line.left + 5, line.top, line.width - 5, line.height}, list.items[i],
                             control.design->font, entry == row ? kWhite : control.fore,
@@ -60,8 +57,7 @@ Rect tooltipPlace(const Rect& owner, std::string_view text, Font& font) {
 
 void paintTooltipFrame(const Brush& brush, const Rect& place) {
   paintShadow(brush, place);
-  brush.fill(place, kNote);
-  brush.outline(place, mix(kNote, kInk, 60));
+  brush.look(place, Look::sheet);
 }
 
 void paintTooltip(const Brush& brush, const Rect& place, std::string_view text) {
@@ -76,12 +72,12 @@ void paintTooltip(const Brush& brush, const Rect& place, std::string_view text) 
 
 void paintBox(const Brush& brush, const Rect& place, const MessageBox& box, bool buttonDown) {
   paintShadow(brush, place);
-  brush.fill(place, kPaper);
-  brush.raised(place, kPaper);
-  const Rect title{place.left + 3, place.top + 3, place.width - 6, kBoxTitleHeight - 4};
-  brush.fillDown(title, kTitleTop, kTitleBottom);
-  brush.within(title).line({title.left + 8, title.top, title.width - 8, title.height}, box.title,
-                           kBoxFont, kWhite, Align::left);
+  brush.fill(place, kGround);
+  brush.look(place, Look::frame);
+  const Rect title{place.left + 4, place.top + 4, place.width - 8, kBoxTitleHeight - 4};
+  brush.look(title, Look::sheet);
+  brush.within(title).line({title.left + 8, title.top, title.width - 16, title.height}, box.title,
+                           kBoxFont, kBlack, Align::centre);
 
   const Rect button = Desk::boxButton(place);
   const int step = lineHeight(kBoxFont);
@@ -96,7 +92,7 @@ void paintBox(const Brush& brush, const Rect& place, const MessageBox& box, bool
     brush.within(inside).line(line, words, kBoxFont, kBlack, single ? Align::centre : Align::left);
     line.top += step;
   }
-  paintButton(brush, button, mix(kPaper, kTitleTop, 18), "OK", kBoxFont, kBlack, buttonDown);
+  paintButton(brush, button, "OK", kBoxFont, kBlack, buttonDown);
 }
 
 }  // namespace platform

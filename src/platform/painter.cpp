@@ -10,13 +10,13 @@ namespace {
 constexpr Rect kScreen{0, 0, 800, 600};
 
 /// A number that tells one look of a floating thing or a list from another.
-class Look {
+class Digest {
  public:
-  Look& with(std::string_view text) {
+  Digest& with(std::string_view text) {
     for (const char c : text) step(static_cast<unsigned char>(c));
     return with(static_cast<int>(text.size()));
   }
-  Look& with(int value) {
+  Digest& with(int value) {
     for (int i = 0; i < 4; ++i) step(static_cast<unsigned>(value) >> (8 * i) & 0xFF);
     return *this;
   }
@@ -31,7 +31,7 @@ class Look {
 std::uint64_t lookOf(const Control& control, const Rect& place) {
   const ListContent& list = *control.list;
   const int count = static_cast<int>(list.items.size());
-  Look look;
+  Digest look;
   look.with(list.selected).with(count);
   if (control.design->kind == ControlKind::dropDown) {
     if (list.selected >= 0 && list.selected < count) {
@@ -49,7 +49,7 @@ std::uint64_t lookOf(const Control& control, const Rect& place) {
 
 std::uint64_t lookOfOpenList(const Control& control, int row) {
   const ListContent& list = *control.list;
-  Look look;
+  Digest look;
   look.with(row).with(list.selected);
   look.with(control.fore.r).with(control.fore.g).with(control.fore.b);
   for (const std::string& item : list.items) look.with(item);
@@ -68,6 +68,7 @@ struct Painter::Painted {
   bool shown = false;
   bool border = false;
   bool checked = false;
+  bool held = false;
   ControlState state;
   Color fore{};
   Color back{};
@@ -77,7 +78,6 @@ struct Painter::Painted {
   Point from{};
   Point to{};
   const Surface* image = nullptr;
-  Rect heldKey{};
   const Canvas* canvas = nullptr;
   std::uint64_t list = 0;
   Text text;
@@ -103,7 +103,7 @@ struct Painter::Held {
   }
 };
 
-Painter::Painter(Font& font) : font_(font) {}
+Painter::Painter(Font& font, const Skin& skin) : font_(font), skin_(skin) {}
 Painter::~Painter() = default;
 
 // Finding what changed.
@@ -114,13 +114,13 @@ void Painter::compareChildren(const Form& form, int parent, const Rect& parentPl
     const Control& control = form[id];
     const Rect place = placeIn(control, parentPlace);
     const bool line = control.design->kind == ControlKind::line;
-    const Rect seen = intersection(line ? form.onScreen(id) : place, clip);
+    const Rect seen = intersection(line ? form.onScreen(id) : paintedBox(control, place), clip);
     if (!control.visible || seen.empty()) {
       forgetShown(form, id);
       continue;
     }
     compare(form, id, place, seen, held);
-    compareChildren(form, id, place, seen, held);
+    compareChildren(form, id, place, intersection(place, clip), held);
   }
 }
 
@@ -139,8 +139,8 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
   const bool same =
       was.shown && was.clip == clip && was.place == place && was.fore == control.fore &&
       was.back == control.back && was.border == control.border && was.checked == control.checked &&
-      was.state == state && was.rank == control.rank && was.from == control.from &&
-      was.to == control.to && was.image == control.image && was.heldKey == control.heldKey &&
+      was.held == control.held && was.state == state && was.rank == control.rank &&
+      was.from == control.from && was.to == control.to && was.image == control.image &&
       was.canvas == control.canvas && was.list == list && was.text == control.text;
   if (same) return;
   if (was.shown) damage_.add(was.clip);
@@ -148,6 +148,7 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
   was.shown = true;
   was.border = control.border;
   was.checked = control.checked;
+  was.held = control.held;
   was.state = state;
   was.fore = control.fore;
   was.back = control.back;
@@ -157,7 +158,6 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
   was.from = control.from;
   was.to = control.to;
   was.image = control.image;
-  was.heldKey = control.heldKey;
   was.canvas = control.canvas;
   was.list = list;
   was.text.assign(control.text);
@@ -198,10 +198,11 @@ void paintChildren(const Brush& brush, const Form& form, int parent, const Rect&
     const Control& control = form[id];
     if (!control.visible) continue;
     const Rect place = placeIn(control, parentPlace);
+    const Brush whole = brush.within(paintedBox(control, place));
+    if (whole.clip().empty()) continue;
+    paintControl(whole, control, place, stateOf(id));
     const Brush within = brush.within(place);
-    if (within.clip().empty()) continue;
-    paintControl(within, control, place, stateOf(id));
-    paintChildren(within, form, id, place, stateOf);
+    if (!within.clip().empty()) paintChildren(within, form, id, place, stateOf);
   }
 }
 
@@ -228,14 +229,14 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
   Rect tipPlace;
   if (!tip.empty()) {
     tipPlace = tooltipPlace(desk.tooltipOwner(), tip, font_);
-    tooltip = {withShadow(tipPlace), Look().with(tip).value()};
+    tooltip = {withShadow(tipPlace), Digest().with(tip).value()};
   }
   Floating box;
   Rect boxPlace;
   if (const MessageBox* shown = desk.box()) {
     boxPlace = Desk::boxPlace(*shown, font_);
     box = {withShadow(boxPlace),
-           Look().with(shown->title).with(shown->text).with(desk.boxButtonDown()).value()};
+           Digest().with(shown->title).with(shown->text).with(desk.boxButtonDown()).value()};
   }
   compareFloating(list_, list);
   compareFloating(tooltip_, tooltip);
@@ -254,7 +255,7 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
   }
 
   for (const Rect& rect : damage_.rects()) {
-    const Brush brush(framebuffer, rect, font_);
+    const Brush brush(framebuffer, rect, font_, skin_);
     brush.fill(rect, kBlack);
     if (form != nullptr) {
       if (form->background() != nullptr) {

@@ -7,12 +7,13 @@
 #include "platform/damage.h"
 #include "platform/desk.h"
 #include "platform/form.h"
+#include "platform/skin.h"
 
 namespace platform {
 
 class Painter {
  public:
-  explicit Painter(Font& font);
+  Painter(Font& font, const Skin& skin);
   ~Painter();
 
   /// Brings the framebuffer (800 x 600 units) up to date with the desk's open screen and whatever floats
@@ -37,6 +38,7 @@ class Painter {
   void compareFloating(Floating& was, const Floating& now);
 
   Font& font_;
+  const Skin& skin_;
   int opened_ = -1;  // which opening of a screen stands on the framebuffer
   std::vector<Painted> painted_;
   Floating list_, tooltip_, box_;

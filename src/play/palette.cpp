@@ -9,7 +9,7 @@ namespace {
 
 void takeInHand(Scene& scene, int tool) {
   scene.game.currentTool = tool;
-  markToolInHand(scene);
+  holdKeys(scene);
 }
 
 /// Takes a tool in hand that places or demolishes. Only what demolishes has no price.
@@ -29,10 +29,14 @@ void takeForWork(Scene& scene, int tool) {
 
 }  // namespace
 
-void markToolInHand(Scene& scene) {
+void holdKeys(Scene& scene) {
   const int tool = scene.game.currentTool.whole();
-  scene.form[ui::Image6].heldKey =
-      tool == core::kInfoTool ? platform::Rect{} : core::paletteKey(tool - 1);
+  for (int i = 0; i < core::kInfoTool - 1; ++i) scene.form[ui::Command1 + i].held = tool == i + 1;
+  scene.form[ui::inform].held = tool == core::kInfoTool;
+  scene.form[ui::building].held = tool != core::kInfoTool;
+  for (int view = 0; view <= core::kServices; ++view) {
+    scene.form[ui::seer + view].held = scene.game.overlayView == view;
+  }
 }
 
 void selectTool(Scene& scene, int index) {

@@ -5,8 +5,9 @@
 
 namespace play {
 
-/// Shows the key of the tool in hand held down. Whoever gives the hand another tool calls it.
-void markToolInHand(Scene& scene);
+/// Holds down the keys of the tool in hand, the mode and the view, and no others. Whoever changes one
+/// of them calls it.
+void holdKeys(Scene& scene);
 /// A click on entry `index`, 0..8, of the palette takes tool index + 1 in hand.
 void selectTool(Scene& scene, int index);
 /// Build mode; it always begins with the road.

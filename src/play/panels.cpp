@@ -3,6 +3,7 @@
 #include "core/missions.h"
 #include "core/number_text.h"
 #include "map/views.h"
+#include "play/palette.h"
 #include "play/press.h"
 #include "sim/rebuild.h"
 
@@ -35,6 +36,7 @@ void chooseView(Scene& scene, int view) {
   scene.game.overlayView = view;
   map::applyOverlayView(scene.stage);
   scene.text(ui::currentview).assign(map::viewName(view));
+  holdKeys(scene);
   if (view != 0 && !form[ui::statusframe].visible) {
     form.moveTo(ui::Frame13, 100, 520);
     form.show(ui::Frame13);

@@ -38,9 +38,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
     t[static_cast<std::size_t>(plateId)] = image(plateName, parent, {left, top, 155, 33});
     ControlDesign d =
         label(labelName, parent, {left + 8, top + 5, 145, 25}, text, FontSize::pt11, Align::centre);
-    d.back = kPlate;
-    d.opaque = true;
-    t[static_cast<std::size_t>(labelId)] = d;
+    t[static_cast<std::size_t>(labelId)] = faced(Face::plainKey, d.place, on(kPlate, d));
   };
 
   t[main] = panel("main", 233, 313);

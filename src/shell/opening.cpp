@@ -80,7 +80,7 @@ void startNewGame(GameScreen& screen) {
   if (values.gNewMap != 1) return;
 
   core::resetGame(scene.game, values);
-  play::markToolInHand(scene);
+  play::holdKeys(scene);
   if (core::isPuzzle(mode)) {
     scene.game.gold = core::puzzle(values.gMission.whole()).gold;
     scene.timers.enable(timer::Timer14);

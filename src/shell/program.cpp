@@ -10,7 +10,7 @@ Program::Program(Services& services)
     : services_(services),
       progress_(services.programFolder),
       desk_(*services.assets.font, services.clipboard),
-      painter_(*services.assets.font),
+      painter_(*services.assets.font, services.assets.skin),
       framebuffer_(platform::kScreenWidth, platform::kScreenHeight, services.assets.scale()) {}
 
 Program::~Program() {

@@ -46,7 +46,8 @@ const platform::Surface* ImageSet::find(std::string_view name) const {
 bool Assets::open(const std::string& dataFolder, std::string& error) {
   folder_ = dataFolder + (scale() == 1 ? "/pictures" : "/pictures/2x");
   font = platform::Font::open(dataFolder + "/font.otf", error, scale());
-  return font != nullptr && images.loadMenu(folder_ + "/panel", error);
+  const std::string panels = folder_ + "/panel";
+  return font != nullptr && skin.load(panels, error, scale()) && images.loadMenu(panels, error);
 }
 
 bool Assets::complete() const {

@@ -16,6 +16,7 @@
 #include "platform/font.h"
 #include "platform/media.h"
 #include "platform/random.h"
+#include "platform/skin.h"
 
 namespace shell {
 
@@ -46,6 +47,7 @@ class ImageSet {
 class Assets {
  public:
   std::unique_ptr<platform::Font> font;
+  platform::Skin skin;
   map::PictureSet pictures;
   ImageSet images;
 

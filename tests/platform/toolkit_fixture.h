@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/desk.h"
+#include "platform/skin.h"
 
 namespace platform {
 
@@ -14,6 +15,13 @@ inline Font& testFont() {
   static std::string error;
   static const std::unique_ptr<Font> font = Font::open(VELLMORAN_BUILD_DIR "/data/font.otf", error);
   return font != nullptr ? *font : (std::fputs(error.c_str(), stderr), std::abort(), *font);
+}
+
+inline const Skin& testSkin() {
+  static Skin skin;
+  static std::string error;
+  static const bool loaded = skin.load(VELLMORAN_BUILD_DIR "/data/pictures/panel", error, 1);
+  return loaded ? skin : (std::fputs(error.c_str(), stderr), std::abort(), skin);
 }
 
 enum : int { kMap, kLine0, kLine1, kTag, kBack, kPlate, kName };
@@ -36,7 +44,11 @@ inline constexpr ControlDesign kTestTable[] = {
     {"tag", kSingle, Kind::label, kMap, {300, 500, 80, 20}, "Tag", FontSize::pt12, Align::centre},
     {.name = "back", .kind = Kind::box, .place = {10, 10, 300, 300}, .back = kRed, .opaque = true},
     {.name = "plate", .kind = Kind::image, .place = {640, 20, 120, 40}, .image = "plate"},
-    {.name = "name", .place = {650, 30, 100, 20}, .text = "MENU"},
+    {.name = "name",
+     .place = {650, 30, 100, 20},
+     .text = "MENU",
+     .face = Face::key,
+     .faceBox = {646, 28, 108, 26}},
     frame("panel", {20, 20, 260, 200}, FontSize::pt14, Heading::title),
     {.name = "panelBox", .kind = Kind::box, .parent = kPanel, .place = {4, 30, 250, 150}},
     {.name = "combo", .kind = Kind::dropDown, .parent = kPanel, .place = {20, 40, 100, 27}},
