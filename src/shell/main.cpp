@@ -74,7 +74,7 @@ int main() {
   const std::string data = home + "/data";
   platform::SdlClock clock;
   platform::SdlDisplay display(data + "/pictures/icon.png");
-  shell::Assets assets;
+  shell::Assets assets(display.scale());
   if (!assets.open(data, error)) {
     display.message("Error", error.c_str());
     return 1;
