@@ -8,6 +8,10 @@
 
 namespace platform {
 
+namespace {
+constexpr Color kWithoutSkin{226, 205, 160};
+}
+
 void Brush::fillDown(const Rect& rect, Color top, Color bottom) const {
   const Rect whole = target_.inPixels(rect);
   const Rect area = intersection(whole, target_.inPixels(clip_));
@@ -55,6 +59,10 @@ void Brush::patch(const Rect& rect, Look look) const {
   if (clip_.empty()) return;
   const LookDesign& design = lookDesign(look);
   const Surface& source = skin_[look];
+  if (source.empty()) {  // only in the message that the pictures are missing
+    fill(rect, kWithoutSkin);
+    return;
+  }
   const int left = std::min(design.left, rect.width / 2);
   const int right = std::min(design.right, rect.width - left);
   const int top = std::min(design.top, rect.height / 2);

@@ -1,10 +1,11 @@
 // A drawing surface that keeps what is drawn on it and shows it when it is told to.
 //
-// Drawing notes the rectangles it touched; `refresh` hands them on to the painter. What has been
-// drawn and not refreshed stays off the screen until something else uncovers it.
+// Drawing notes the rectangles it changed; `refresh` hands them on to the painter. What has been
+// drawn and not refreshed stays off the screen until something else uncovers it. Most of what a
+// redraw draws is there already, and costs no more than that.
 #pragma once
 
-#include <utility>
+#include <algorithm>
 
 #include "platform/damage.h"
 #include "platform/surface.h"
@@ -21,20 +22,26 @@ class Canvas {
 
   void bitBlt(int x, int y, int width, int height, const Surface& source, std::uint32_t operation) {
     if (blank_) return;
-    BitBlt(surface_, x, y, width, height, source, 0, 0, operation);
-    drawn_.add(intersection({x, y, width, height}, surface_.bounds()));
+    // In parts, so that a small change in a large picture is no large change.
+    for (int top = 0; top < height; top += kPart) {
+      for (int left = 0; left < width; left += kPart) {
+        const Rect part{x + left, y + top, std::min(kPart, width - left),
+                        std::min(kPart, height - top)};
+        note(part, BitBlt(surface_, part.left, part.top, part.width, part.height, source, left, top,
+                          operation));
+      }
+    }
   }
   void stretchBlt(int x, int y, int width, int height, const Surface& source, int sourceWidth,
                   int sourceHeight, std::uint32_t operation) {
     if (blank_) return;
-    StretchBlt(surface_, x, y, width, height, source, 0, 0, sourceWidth, sourceHeight, operation);
-    drawn_.add(intersection({x, y, width, height}, surface_.bounds()));
+    note({x, y, width, height}, StretchBlt(surface_, x, y, width, height, source, 0, 0, sourceWidth,
+                                           sourceHeight, operation));
   }
   /// SRCAND of `tile`, then SRCPAINT of `mask`.
   void pair(int x, int y, int width, int height, const Surface& tile, const Surface& mask) {
     if (blank_) return;
-    blitPair(surface_, x, y, width, height, tile, mask);
-    drawn_.add(intersection({x, y, width, height}, surface_.bounds()));
+    note({x, y, width, height}, blitPair(surface_, x, y, width, height, tile, mask));
   }
   /// Clears the surface to black and shows it at once. A blank surface takes drawing again.
   void clear() {
@@ -59,6 +66,12 @@ class Canvas {
   DamageList& shown() { return shown_; }
 
  private:
+  static constexpr int kPart = 64;  // units
+
+  void note(const Rect& box, bool changed) {
+    if (changed) drawn_.add(intersection(box, surface_.bounds()));
+  }
+
   Surface surface_;
   DamageList drawn_;
   DamageList shown_;

@@ -1,5 +1,7 @@
 #include "platform/painter.h"
 
+#include <algorithm>
+
 #include "platform/layout.h"
 #include "platform/paint.h"
 
@@ -62,6 +64,11 @@ Rect placeIn(const Control& control, const Rect& parent) {
   return moved(control.place, parent.left, parent.top);
 }
 
+/// A control of the screen itself that hides what is behind it.
+bool isCover(const Control& control) {
+  return control.visible && coversItsBox(control);
+}
+
 }  // namespace
 
 struct Painter::Painted {
@@ -108,6 +115,34 @@ Painter::~Painter() = default;
 
 // Finding what changed.
 
+/// Adds a rectangle without what `covers` hide of it. Whatever changes in those parts is a change of
+/// the covers themselves.
+void Painter::damage(const Rect& rect, std::span<const Rect> covers) {
+  if (rect.empty()) return;
+  if (covers.empty()) {
+    damage_.add(rect);
+    return;
+  }
+  const Rect hidden = intersection(rect, covers.front());
+  const std::span<const Rect> others = covers.subspan(1);
+  if (hidden.empty()) {
+    damage(rect, others);
+    return;
+  }
+  damage({rect.left, rect.top, rect.width, hidden.top - rect.top}, others);
+  damage({rect.left, hidden.bottom(), rect.width, rect.bottom() - hidden.bottom()}, others);
+  damage({rect.left, hidden.top, hidden.left - rect.left, hidden.height}, others);
+  damage({hidden.right(), hidden.top, rect.right() - hidden.right(), hidden.height}, others);
+}
+
+void Painter::findCovers(const Form& form) {
+  const std::span<const int> children = form.children(kNoParent);
+  for (auto id = children.rbegin(); id != children.rend(); ++id) {
+    if (isCover(form[*id])) covers_.push_back(form[*id].place);
+  }
+  covering_ = covers_.size();
+}
+
 void Painter::compareChildren(const Form& form, int parent, const Rect& parentPlace,
                               const Rect& clip, const Held& held) {
   for (const int id : form.children(parent)) {
@@ -115,6 +150,7 @@ void Painter::compareChildren(const Form& form, int parent, const Rect& parentPl
     const Rect place = placeIn(control, parentPlace);
     const bool line = control.design->kind == ControlKind::line;
     const Rect seen = intersection(line ? form.onScreen(id) : paintedBox(control, place), clip);
+    if (parent == kNoParent && isCover(control)) --covering_;
     if (!control.visible || seen.empty()) {
       forgetShown(form, id);
       continue;
@@ -130,9 +166,10 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
   Painted& was = painted_[static_cast<std::size_t>(id)];
   const ControlState state = held.of(id);
   const std::uint64_t list = control.list == nullptr ? 0 : lookOf(control, place);
+  const std::span covers(covers_.data(), covering_);
   if (control.canvas != nullptr) {
     for (const Rect& rect : control.canvas->shown().rects()) {
-      damage_.add(intersection(moved(rect, place.left, place.top), clip));
+      damage(intersection(moved(rect, place.left, place.top), clip), covers);
     }
     control.canvas->shown().clear();
   }
@@ -143,8 +180,8 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
       was.from == control.from && was.to == control.to && was.image == control.image &&
       was.canvas == control.canvas && was.list == list && was.text == control.text;
   if (same) return;
-  if (was.shown) damage_.add(was.clip);
-  damage_.add(clip);
+  if (was.shown) damage(was.clip, covers);
+  damage(clip, covers);
   was.shown = true;
   was.border = control.border;
   was.checked = control.checked;
@@ -167,7 +204,7 @@ void Painter::forgetShown(const Form& form, int id) {
   Painted& was = painted_[static_cast<std::size_t>(id)];
   if (!was.shown) return;  // then nothing that it holds was shown either
   was.shown = false;
-  damage_.add(was.clip);
+  damage(was.clip, {covers_.data(), covering_});
   for (const int child : form.children(id)) forgetShown(form, child);
 }
 
@@ -213,11 +250,17 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
   const Form* form = desk.form();
   if (opened_ != desk.opened()) {
     opened_ = desk.opened();
-    painted_.assign(form == nullptr ? 0 : static_cast<std::size_t>(form->count()), Painted{});
+    const std::size_t count = form == nullptr ? 0 : static_cast<std::size_t>(form->count());
+    painted_.assign(count, Painted{});
+    covers_.reserve(count);
     damage_.add(kScreen);
   }
   const Held held(desk);
-  if (form != nullptr) compareChildren(*form, kNoParent, kScreen, kScreen, held);
+  covers_.clear();
+  if (form != nullptr) {
+    findCovers(*form);
+    compareChildren(*form, kNoParent, kScreen, kScreen, held);
+  }
 
   Floating list;
   if (held.open >= 0) {
@@ -256,12 +299,17 @@ const DamageList& Painter::paint(Surface& framebuffer, Desk& desk, std::int64_t 
 
   for (const Rect& rect : damage_.rects()) {
     const Brush brush(framebuffer, rect, font_, skin_);
-    brush.fill(rect, kBlack);
-    if (form != nullptr) {
-      if (form->background() != nullptr) {
+    const bool covered = std::any_of(covers_.begin(), covers_.end(), [&rect](const Rect& cover) {
+      return intersection(cover, rect) == rect;
+    });
+    if (!covered) {
+      brush.fill(rect, kBlack);
+      if (form != nullptr && form->background() != nullptr) {
         const Surface& picture = *form->background();
         brush.picture(picture.bounds(), picture);
       }
+    }
+    if (form != nullptr) {
       paintChildren(brush, *form, kNoParent, kScreen, [&held](int id) { return held.of(id); });
       if (held.open >= 0) {
         paintOpenList(brush, desk.openListPlace(), (*form)[held.open], desk.openListRow());

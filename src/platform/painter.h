@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "platform/damage.h"
@@ -31,17 +32,21 @@ class Painter {
   };
   struct Held;  // what the desk does with the controls at the moment
 
+  void findCovers(const Form& form);
   void compareChildren(const Form& form, int parent, const Rect& parentPlace, const Rect& clip,
                        const Held& held);
   void compare(const Form& form, int id, const Rect& place, const Rect& clip, const Held& held);
   void forgetShown(const Form& form, int id);
   void compareFloating(Floating& was, const Floating& now);
+  void damage(const Rect& rect, std::span<const Rect> covers);
 
   Font& font_;
   const Skin& skin_;
   int opened_ = -1;  // which opening of a screen stands on the framebuffer
   std::vector<Painted> painted_;
   Floating list_, tooltip_, box_;
+  std::vector<Rect> covers_;  // boxes that hide what is behind them, the foremost first
+  std::size_t covering_ = 0;  // how many of them lie in front of the control that is compared
   DamageList damage_;
 };
 

@@ -46,10 +46,14 @@ class Scaler {
   Point pictured(Point onDisplay) const;
 
  private:
+  /// A line of the display from the left edge of the picture.
+  std::uint32_t* lineOf(const PixelMemory& display, int y) const;
   const std::uint32_t* stretchedRow(const Surface& picture, int row, const Rect& part,
                                     const PixelMemory& display);
+  void prepareGrowing();
+  void prepareShrinking();
   void grow(std::uint32_t* to, int begin, int end);
-  void shrink(std::uint32_t* to, int begin, int end) const;
+  void shrink(std::uint32_t* to, int begin, int end);
 
   int scale_;
   Size picture_;  // in pixels
@@ -60,17 +64,26 @@ class Scaler {
   // A row of the picture in the display's order of bits. Behind it, where the picture grows, what
   // lies on the borders of its pixels: on each border lies at most one pixel of the display.
   std::vector<std::uint32_t> packed_;
-  std::vector<std::uint16_t> borders_;  // for every byte of that: how much is of the later pixel
-  std::vector<int> sources_;            // for every column of the display: where it is in `packed_`
+  // For every column of the display what it takes of that; where the picture shrinks, first the first
+  // pixel of all columns, then the second of all, and what part of each.
+  std::vector<std::uint16_t> sources_;
+  std::vector<std::uint8_t> borders_;  // for every byte of a border: how much is of the later pixel
+  std::vector<std::uint16_t> parts_;   // for every byte of a source
+  std::vector<std::uint32_t> picked_;
   // Rows of the picture at the display's width: as many as a row of the display takes of.
   std::vector<std::vector<std::uint32_t>> stretched_;
-  std::vector<int> stretchedRows_;
+  struct Kept {
+    int row = -1;
+    const std::uint32_t* pixels = nullptr;
+  };
+  std::vector<Kept> kept_;
+  std::vector<int> lines_;  // for every row: a line of the display that takes of it alone, or -1
   struct Taken {
     const std::uint8_t* row;
     std::uint16_t share;
   };
-  std::vector<Taken> taken_;         // what one row of the display takes of
-  std::vector<std::uint16_t> sums_;  // of more than two rows
+  std::vector<Taken> taken_;  // what one row of the display takes of
+  std::vector<std::uint16_t> sums_;
 };
 
 }  // namespace platform

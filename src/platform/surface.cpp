@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "platform/vector_loops.h"
+
 namespace platform {
 
 namespace {
@@ -12,28 +14,48 @@ std::size_t bytes(int pixels) {
   return static_cast<std::size_t>(pixels) * kBytesPerPixel;
 }
 
-// The rows are walked byte by byte in plain loops: the compiler makes vector code of them.
+// The rows are walked byte by byte in plain loops, and each gives back whether it changed anything.
 
-void copyRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
+bool copyRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
   std::memcpy(to, from, count);
+  return true;
 }
 
-void andRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
-  for (std::size_t i = 0; i < count; ++i) to[i] = static_cast<std::uint8_t>(to[i] & from[i]);
-}
-
-void orRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
-  for (std::size_t i = 0; i < count; ++i) to[i] = static_cast<std::uint8_t>(to[i] | from[i]);
-}
-
-void pairRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict tile,
-             const std::uint8_t* __restrict mask, std::size_t count) {
+VELLMORAN_VECTOR_LOOP
+bool andRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
+  std::uint8_t change = 0;
   for (std::size_t i = 0; i < count; ++i) {
-    to[i] = static_cast<std::uint8_t>((to[i] & tile[i]) | mask[i]);
+    const auto now = static_cast<std::uint8_t>(to[i] & from[i]);
+    change = static_cast<std::uint8_t>(change | (to[i] ^ now));
+    to[i] = now;
   }
+  return change != 0;
 }
 
-using RowOperation = void (*)(std::uint8_t*, const std::uint8_t*, std::size_t);
+VELLMORAN_VECTOR_LOOP
+bool orRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
+  std::uint8_t change = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto now = static_cast<std::uint8_t>(to[i] | from[i]);
+    change = static_cast<std::uint8_t>(change | (to[i] ^ now));
+    to[i] = now;
+  }
+  return change != 0;
+}
+
+VELLMORAN_VECTOR_LOOP
+bool pairRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict tile,
+             const std::uint8_t* __restrict mask, std::size_t count) {
+  std::uint8_t change = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto now = static_cast<std::uint8_t>((to[i] & tile[i]) | mask[i]);
+    change = static_cast<std::uint8_t>(change | (to[i] ^ now));
+    to[i] = now;
+  }
+  return change != 0;
+}
+
+using RowOperation = bool (*)(std::uint8_t*, const std::uint8_t*, std::size_t);
 
 RowOperation rowOperation(std::uint32_t operation) {
   switch (operation) {
@@ -106,30 +128,32 @@ Surface Surface::clone() const {
   return copy;
 }
 
-void BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+bool BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
             int sourceX, int sourceY, std::uint32_t operation) {
   const RowOperation run = rowOperation(operation);
   const Rect area = copied(target, {x, y, width, height}, source, sourceX, sourceY);
-  if (run == nullptr || area.empty()) return;
+  if (run == nullptr || area.empty()) return false;
+  bool changed = false;
   const Point back = source.inPixels(Point{sourceX - x, sourceY - y});
   for (int row = area.top; row < area.bottom(); ++row) {
-    run(target.row(row) + bytes(area.left), source.row(row + back.y) + bytes(area.left + back.x),
-        bytes(area.width));
+    changed |= run(target.row(row) + bytes(area.left),
+                   source.row(row + back.y) + bytes(area.left + back.x), bytes(area.width));
   }
+  return changed;
 }
 
-void StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
                 int sourceX, int sourceY, int sourceWidth, int sourceHeight,
                 std::uint32_t operation) {
   if (width == sourceWidth && height == sourceHeight) {
-    BitBlt(target, x, y, width, height, source, sourceX, sourceY, operation);
-    return;
+    return BitBlt(target, x, y, width, height, source, sourceX, sourceY, operation);
   }
   const RowOperation run = rowOperation(operation);
   const Rect box = target.inPixels(Rect{x, y, width, height});
   const Rect from = source.inPixels(Rect{sourceX, sourceY, sourceWidth, sourceHeight});
   const Rect area = intersection(box, target.pixelBounds());
-  if (run == nullptr || area.empty() || from.empty()) return;
+  if (run == nullptr || area.empty() || from.empty()) return false;
+  bool changed = false;
   // The source pixel whose middle lies nearest to the middle of the target pixel.
   const auto nearest = [](int offset, int size, int sourceSize) {
     return static_cast<int>((2LL * offset + 1) * sourceSize / (2LL * size));
@@ -140,25 +164,28 @@ void StretchBlt(Surface& target, int x, int y, int width, int height, const Surf
     for (int column = area.left; column < area.right(); ++column) {
       const int fromColumn = from.left + nearest(column - box.left, box.width, from.width);
       if (fromColumn < 0 || fromColumn >= source.pixelBounds().width) continue;
-      run(target.row(row) + bytes(column), source.row(fromRow) + bytes(fromColumn), bytes(1));
+      changed |=
+          run(target.row(row) + bytes(column), source.row(fromRow) + bytes(fromColumn), bytes(1));
     }
   }
+  return changed;
 }
 
-void blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
+bool blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
               const Surface& mask) {
   const Rect area = copied(target, {x, y, width, height}, tile, 0, 0);
   if (area != copied(target, {x, y, width, height}, mask, 0, 0)) {
-    BitBlt(target, x, y, width, height, tile, 0, 0, SRCAND);
-    BitBlt(target, x, y, width, height, mask, 0, 0, SRCPAINT);
-    return;
+    const bool cut = BitBlt(target, x, y, width, height, tile, 0, 0, SRCAND);
+    return BitBlt(target, x, y, width, height, mask, 0, 0, SRCPAINT) || cut;
   }
+  bool changed = false;
   const Point place = target.inPixels(Point{x, y});
   for (int row = area.top; row < area.bottom(); ++row) {
     const std::size_t from = bytes(area.left - place.x);
-    pairRow(target.row(row) + bytes(area.left), tile.row(row - place.y) + from,
-            mask.row(row - place.y) + from, bytes(area.width));
+    changed |= pairRow(target.row(row) + bytes(area.left), tile.row(row - place.y) + from,
+                       mask.row(row - place.y) + from, bytes(area.width));
   }
+  return changed;
 }
 
 }  // namespace platform

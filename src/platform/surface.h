@@ -72,17 +72,18 @@ class Surface {
 
 /// Copies width x height units of `source` from (sourceX, sourceY) to (x, y) of `target` with one of
 /// the raster operations above. An unknown operation does nothing. Source and target must differ.
-void BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+/// False when every pixel stayed as it was, which a plain copy does not look at.
+bool BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
             int sourceX, int sourceY, std::uint32_t operation);
 
 /// The same from a source rectangle of another size, by nearest pixel; equal sizes copy 1:1.
-void StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
+bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source,
                 int sourceX, int sourceY, int sourceWidth, int sourceHeight,
                 std::uint32_t operation);
 
 /// SRCAND of `tile` and then SRCPAINT of `mask`, both from (0, 0) with the same box, in one walk over
 /// the pixels. The result is to the bit what the two copies give.
-void blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
+bool blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
               const Surface& mask);
 
 }  // namespace platform

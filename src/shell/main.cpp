@@ -76,7 +76,7 @@ int main() {
   platform::SdlDisplay display(data + "/pictures/icon.png", data + "/font.otf");
   std::string folder;
   std::string error;
-  shell::Assets assets;
+  shell::Assets assets(display.scale());
   if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error) ||
       !assets.open(data, error)) {
     display.message("Error", error.c_str());

@@ -35,9 +35,9 @@ class Painting : public Toolkit {
         [&] { form_.moveTo(panel, rolled(-50, 600), rolled(-50, 400)); },
         [&] { form_[kLine0].from = anywhere(); },
         [&] {
-          canvas_.surface().fill({500, 100, 30, 200}, anyColor());
+          canvasPicture_.clear(anyColor());
           canvas_.pair(rolled(0, 990), rolled(0, 690), 60, 20, plate_, plate_);
-          canvas_.bitBlt(500, 100, 30, 200, canvasPicture_, SRCPAINT);
+          canvas_.bitBlt(500, 100, 30, 200, canvasPicture_, rolled(0, 1) != 0 ? SRCPAINT : SRCAND);
           canvas_.refresh();
         },
         [&] { control.border = !control.border; },
@@ -98,6 +98,9 @@ TEST_F(Painting, OnlyWhatChangedIsPaintedDrawingWaitsForTheRefreshAndLinesLieAbo
   canvas_.refresh();
   EXPECT_EQ(paint(), (std::vector<Rect>{{590, 490, 30, 30}}));
   EXPECT_EQ(screen_.pixel(600, 500), kBlack);
+  canvas_.bitBlt(690, 540, 30, 30, canvasPicture_, SRCAND);
+  canvas_.refresh();
+  EXPECT_TRUE(paint().empty()) << "it was drawn already";
   form_[kLine0].from = {150, 200}, form_[kLine0].to = {1200, 200};
   paint();
   EXPECT_EQ(screen_.pixel(600, 149), kGreen) << "two pixels wide";

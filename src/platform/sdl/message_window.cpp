@@ -3,6 +3,7 @@
 #include "platform/painter.h"
 #include "platform/sdl/sdl_display.h"
 #include "platform/sdl/sdl_events.h"
+#include "platform/skin.h"
 
 namespace platform {
 
@@ -27,7 +28,11 @@ bool showMessage(SdlDisplay& display, const std::string& fontPath, std::string_v
   if (font == nullptr) return false;
   Desk desk(*font);
   desk.showBox(title, text);
-  Painter painter(*font);
+  Skin skin;
+  std::string error;
+  const std::string data = fontPath.substr(0, fontPath.find_last_of('/') + 1);
+  if (!skin.load(data + "pictures/panel", error, 1)) skin = {};
+  Painter painter(*font, skin);
   Surface framebuffer(kScreenWidth, kScreenHeight);
   SdlEvents events(display);
   Event event;

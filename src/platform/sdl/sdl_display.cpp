@@ -82,6 +82,11 @@ bool SdlDisplay::startVideo() {
   return true;
 }
 
+int SdlDisplay::scale() {
+  if (scale_ == 0) scale_ = scaleFor(size());
+  return scale_;
+}
+
 Size SdlDisplay::size() {
   if (window_ != nullptr) return kPicture;
   SDL_DisplayMode mode{};
@@ -217,8 +222,8 @@ void SdlDisplay::rearrange() {
   SDL_GetWindowSize(window_, &size.width, &size.height);
   if (size == windowSize_) return;
   windowSize_ = size;
-  scaler_ =
-      std::make_unique<Scaler>(kPicture, Size{std::max(1, size.width), std::max(1, size.height)});
+  scaler_ = std::make_unique<Scaler>(
+      kPicture, Size{std::max(1, size.width), std::max(1, size.height)}, scale());
 }
 
 Point SdlDisplay::pictured(Point inWindow) const {
@@ -236,7 +241,7 @@ void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> chang
   if (Size{surface->w, surface->h} != windowSize_) {
     // The surface is new and empty, and the events that will tell it are still to come.
     windowSize_ = {surface->w, surface->h};
-    scaler_ = std::make_unique<Scaler>(kPicture, windowSize_);
+    scaler_ = std::make_unique<Scaler>(kPicture, windowSize_, scale());
     barsShown_ = false;
   }
 

@@ -1,5 +1,5 @@
-// The window. It fills the desktop at the desktop's own mode and shows the 800 x 600 picture scaled
-// to fit; F11 and Alt+Enter make it an ordinary window and back.
+// The window. It fills the desktop at the desktop's own mode and shows the picture of 800 x 600
+// units scaled to fit; F11 and Alt+Enter make it an ordinary window and back.
 #pragma once
 
 #include <memory>
@@ -23,6 +23,9 @@ class SdlDisplay : public Display {
   SdlDisplay(const SdlDisplay&) = delete;
   SdlDisplay& operator=(const SdlDisplay&) = delete;
 
+  /// The scale to draw at, which the desktop at the first call decides for good.
+  int scale();
+
   /// 0 x 0 where there is no display at all.
   Size size() override;
   /// 800 x 600 opens the window, where it is not open yet; any other size closes it.
@@ -44,7 +47,7 @@ class SdlDisplay : public Display {
   void toggleFullScreen();
   /// The window's size may have changed, and what was on it may be gone.
   void rearrange();
-  /// The framebuffer pixel at a point of the window.
+  /// The unit of the picture at a point of the window.
   Point pictured(Point inWindow) const;
   bool inWindow(Point point) const;
 
@@ -66,6 +69,7 @@ class SdlDisplay : public Display {
   SDL_Window* window_ = nullptr;
   std::unique_ptr<Scaler> scaler_;
   Size windowSize_{};
+  int scale_ = 0;  // 0 while nobody has wanted to know
   bool videoStarted_ = false;
   bool barsShown_ = false;
   // Somebody answers a wish for full screen; else the window covers the screen by itself.

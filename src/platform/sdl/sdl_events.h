@@ -28,7 +28,7 @@ enum class EventKind : std::uint8_t {
 
 struct Event {
   EventKind kind = EventKind::redraw;
-  Point point{};       // pixel of the framebuffer, 0..799 and 0..599
+  Point point{};       // in units of the layout, 0..799 and 0..599
   bool inside = true;  // the pointer is in the window
   int steps = 0;
   Key key = Key::enter;
