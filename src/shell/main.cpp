@@ -1,6 +1,7 @@
 // The game itself: a window, real sound, the machine's clock.
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "platform/files.h"
 #include "platform/program_folder.h"
@@ -13,11 +14,6 @@
 #include "shell/unsaved_city.h"
 
 namespace {
-
-int fail(const std::string& what) {
-  std::fprintf(stderr, "vellmoran: %s\n", what.c_str());
-  return 1;
-}
 
 void deliver(const platform::Event& event, shell::Program& program) {
   platform::Desk& desk = program.desk();
@@ -64,16 +60,27 @@ void takeEvents(platform::SdlEvents& events, shell::Program& program, std::int64
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == "--version") {
+    std::puts("Vellmoran " VELLMORAN_VERSION);
+    return 0;
+  }
+  if (argc > 1) {
+    std::fputs("usage: vellmoran [--version]\n", stderr);
+    return 2;
+  }
   const std::string home = platform::executableFolder();
+  const std::string beside = home + "/data";
+  const std::string data =
+      platform::fileExists(beside + "/font.otf") ? beside : home + "/" VELLMORAN_DATA_FROM_PROGRAM;
+  platform::SdlClock clock;
+  platform::SdlDisplay display(data + "/pictures/icon.png");
   std::string folder;
   std::string error;
   if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error)) {
-    return fail(error);
+    // The game can be played all the same. The menu says so when it cannot keep the progress there.
+    std::fprintf(stderr, "vellmoran: %s\n", error.c_str());
   }
-  const std::string data = home + "/data";
-  platform::SdlClock clock;
-  platform::SdlDisplay display(data + "/pictures/icon.png");
   shell::Assets assets;
   if (!assets.open(data, error)) {
     display.message("Error", error.c_str());
