@@ -19,7 +19,8 @@ DRAWINGS = {
     'field':     ('farm', 'tile', {'endless': True, 'line': .14}, [13]),
     'wallx':     ('wall', 'tiletall', {'declare': ['Which=0'], 'own': ['Which=0', 'Own=1'], 'fade': '', 'void': 'y'}, [59]),
     'wally':     ('wall', 'tiletall', {'declare': ['Which=1'], 'own': ['Which=1', 'Own=1'], 'fade': '', 'void': 'x'}, [60]),
-    'tower':     ('wall', 'tiletall', {'declare': ['Which=2'], 'fade': 'x', 'void': 'xy'}, [61]),
+    # a tower borders on the void on one side or on both, so its ground only dims there
+    'tower':     ('wall', 'tiletall', {'declare': ['Which=2'], 'fade': 'x', 'void': 'xy', 'dark': .55}, [61]),
 }
 ODD_BOX = (5, 6)          # 63 x 33: drawn as 64 x 32, so nothing may be lost
 

@@ -206,7 +206,8 @@ def finished(samples, kind, opts, s):
             ragged = np.zeros(u.shape)
             box(ragged, ox - 32, oy, 64, 32, s)[:] = torus_noise(23, 71, s) - .5
             d = np.clip((n - t) / .26 + 1.2 * ragged * (n - t < .26), 0, 1)
-            comp = comp * (c3 + (1 - c3) * (d * d * (3 - 2 * d))[..., None])
+            d = 1 - opts.get('dark', 1) * (1 - d * d * (3 - 2 * d))
+            comp = comp * (c3 + (1 - c3) * d[..., None])
     above = (cov >= .5) & ~foot & ~below(w, h, ox, oy, n, s)
     if kind in ('flat', 'tile'):
         above[:] = False
