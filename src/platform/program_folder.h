@@ -10,8 +10,10 @@ namespace platform {
 std::string executableFolder();
 
 /// The folder that games and progress are kept in, whole and writable: the executable's own where
-/// files can be made in it, else `vellmoran` in the user's data folder ($XDG_DATA_HOME, or
-/// ~/.local/share), which is made on first use. False, with what is wrong in `error`.
+/// `data` lies beside it and files can be made in it, else `vellmoran` in the user's data folder
+/// ($XDG_DATA_HOME, or ~/.local/share), which is made on first use and is for its user alone. That
+/// a folder of programs can be written, as by root, is no reason to put a player's files there.
+/// False, with what is wrong in `error`.
 bool findProgramFolder(std::string& folder, std::string& error);
 
 /// Makes a folder the working folder. False, with what is wrong in `error`.

@@ -1,7 +1,10 @@
 // The game itself: a window, real sound, the machine's clock.
 #include <algorithm>
+#include <cstdio>
 #include <string>
+#include <string_view>
 
+#include "platform/files.h"
 #include "platform/pausing_clock.h"
 #include "platform/program_folder.h"
 #include "platform/sdl/sdl_clipboard.h"
@@ -70,15 +73,27 @@ class Window {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == "--version") {
+    std::puts("Vellmoran " VELLMORAN_VERSION);
+    return 0;
+  }
+  if (argc > 1) {
+    std::fputs("usage: vellmoran [--version]\n", stderr);
+    return 2;
+  }
   const std::string home = platform::executableFolder();
-  const std::string data = home + "/data";
+  const std::string beside = home + "/data";
+  const std::string data =
+      platform::fileExists(beside + "/font.otf") ? beside : home + "/" VELLMORAN_DATA_FROM_PROGRAM;
   platform::SdlDisplay display(data + "/pictures/icon.png", data + "/font.otf");
   std::string folder;
   std::string error;
+  if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error)) {
+    display.message("Error", error.c_str());  // the game can be played all the same
+  }
   shell::Assets assets(display.scale());
-  if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error) ||
-      !assets.open(data, error)) {
+  if (!assets.open(data, error)) {
     display.message("Error", error.c_str());
     return 1;
   }

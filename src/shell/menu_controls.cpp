@@ -173,7 +173,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[homepage] =
       label("homepage", Frame11, {0, 240, 73, 25}, "Homepage:", FontSize::pt9, Align::right);
   t[homepageaddress] = label("homepageaddress", Frame11, {80, 240, 257, 25},
-                             "README.md and docs/ in the game's folder", FontSize::pt9);
+                             "README.md and docs/ of Vellmoran " VELLMORAN_VERSION, FontSize::pt9);
   t[contact] =
       label("contact", Frame11, {16, 264, 57, 25}, "Contact:", FontSize::pt9, Align::right);
   t[contactaddress] =

@@ -1,5 +1,6 @@
 #include "platform/program_folder.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -17,6 +18,11 @@ namespace {
 std::string pathVariable(const char* name) {
   const char* value = std::getenv(name);
   return value != nullptr && value[0] == '/' ? value : "";
+}
+
+bool isFolder(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 std::string userDataFolder() {
@@ -38,7 +44,7 @@ std::string executableFolder() {
 
 bool findProgramFolder(std::string& folder, std::string& error) {
   folder = executableFolder();
-  if (!folder.empty() && folderWritable(folder)) return true;
+  if (!folder.empty() && isFolder(folder + "/data") && folderWritable(folder)) return true;
   const std::string data = userDataFolder();
   if (data.empty()) {
     error = "Neither the program's folder can be written nor is there a home folder";

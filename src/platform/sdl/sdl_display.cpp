@@ -1,6 +1,7 @@
 #include "platform/sdl/sdl_display.h"
 
 #include <SDL.h>
+#include <signal.h>
 
 #include <algorithm>
 #include <array>
@@ -45,6 +46,16 @@ Size windowedSize(Size desktop) {
   return {kScreenWidth * factor, kScreenHeight * factor};
 }
 
+// The end of a session or of the terminal that the game was started from asks it to quit, as SIGTERM
+// does. Who starts it under nohup wants it to go on.
+void hangUpAsTermination() {
+  struct sigaction hangUp {};
+  sigaction(SIGHUP, nullptr, &hangUp);
+  if (hangUp.sa_handler != SIG_DFL) return;
+  hangUp.sa_handler = [](int) { raise(SIGTERM); };
+  sigaction(SIGHUP, &hangUp, nullptr);
+}
+
 }  // namespace
 
 SdlDisplay::SdlDisplay(std::string icon, std::string font)
@@ -71,6 +82,7 @@ bool SdlDisplay::startVideo() {
     return false;
   }
   videoStarted_ = true;
+  hangUpAsTermination();
   const std::string_view driver = SDL_GetCurrentVideoDriver();
   // Where there is no display the library may take a driver that shows nothing, unasked.
   if (SDL_getenv("SDL_VIDEODRIVER") == nullptr && (driver == "offscreen" || driver == "dummy")) {
