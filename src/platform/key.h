@@ -5,6 +5,7 @@
 
 namespace platform {
 
+// The page of the browser edition counts them in this order.
 enum class Key : std::uint8_t {
   backspace,
   enter,
