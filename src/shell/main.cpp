@@ -74,7 +74,7 @@ int main(int argc, char** argv) {
   const std::string data =
       platform::fileExists(beside + "/font.otf") ? beside : home + "/" VELLMORAN_DATA_FROM_PROGRAM;
   platform::SdlClock clock;
-  platform::SdlDisplay display(data + "/pictures/icon.png");
+  platform::SdlDisplay display(data + "/pictures/icon/128.png");
   std::string folder;
   std::string error;
   if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error)) {
