@@ -86,7 +86,7 @@ int main(int argc, char** argv) {
   const std::string beside = home + "/data";
   const std::string data =
       platform::fileExists(beside + "/font.otf") ? beside : home + "/" VELLMORAN_DATA_FROM_PROGRAM;
-  platform::SdlDisplay display(data + "/pictures/icon.png", data + "/font.otf");
+  platform::SdlDisplay display(data + "/pictures/icon/128.png", data + "/font.otf");
   std::string folder;
   std::string error;
   if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error)) {

@@ -1,23 +1,43 @@
 // icon.pov -- the program's sign: a tower, a house and a tree on a piece of meadow.
-// Two cells wide, drawn at twice the size of the icon.
+// Small 1, for 32 pixels: tower and house alone, closer. Small 2, for 16: the tower.
+#ifndef (Small) #declare Small = 0; #end
 #include "scenery.inc"
 #include "stock.inc"
 #declare Sc = C("CDBFA0");
 #include "towers.inc"
-box { <0,0,-0.30>, <2,2,-0.06> mPlain(C("8A6238")) }
-box { <0,0,-0.44>, <2,2,-0.30> mPlain(C("6E4A2C")) }
-box { <-0.015,-0.015,-0.07>, <2.015,2.015,0> Mat(pigment { bozo color_map { [0 rgb C("6A9A36")] [1 rgb C("8CBA4E")] } scale 0.18 }) }
-box { <0.85,1.1,0>, <1.15,2.0,0.006> mPlain(C("D3C6A6")) }
-RoundTower(<0.62,0.72,0>, 0.46, 1.12, 0, 1)
+#declare Side = (Small = 0 ? 2 : (Small = 1 ? 1.70 : 1.34));       // of the meadow, in cells
+#declare T = (Small = 0 ? <0.62,0.72,0> : (Small = 1 ? <0.56,0.58,0> : <0.58,0.58,0>));
+#declare R = (Small = 2 ? 0.43 : 0.48);
+#declare H = (Small = 0 ? 1.12 : (Small = 1 ? 0.74 : 0.76));
+#declare Deep = (Small ? 0.20 : 0.30);
+box { <0,0,-Deep>, <Side,Side,-0.06> mPlain(C("8A6238")) }
+box { <0,0,-Deep*1.47>, <Side,Side,-Deep> mPlain(C("6E4A2C")) }
+box { <-0.015,-0.015,-0.07>, <Side+0.015,Side+0.015,0> Mat(pigment { bozo color_map { [0 rgb C("6A9A36")] [1 rgb C("8CBA4E")] } scale 0.18 }) }
+#if (Small < 2) box { <Side*0.43,Side*0.55,0>, <Side*0.57,Side,0.006> mPlain(C("D3C6A6")) } #end
+#if (Small < 2)
+  RoundTower(T, R, H, 0, 1)
+#else
+  cylinder { T, T+z*(H+0.10), R mPlain(C("F0E4C4")) }
+  cylinder { T+z*(H-0.06), T+z*(H+0.10), R*1.12 mPlain(C("FFF4DA")) }
+  box { T+<0.06,R-0.06,0>, T+<-0.14,R+0.02,0.34> mPlain(cBeamDark) }
+#end
 // a bold cone: the small one of the walls would vanish at this size
-#declare J = 0;
+#declare Cone = (Small = 2 ? 0.60 : 0.53); #declare Rise = (Small = 2 ? 0.72 : 0.875); #declare J = 0;
 #while (J < 7)
-  cone { <0.62,0.72,1.20+0.125*J>, 0.50*(1-J/7)+0.015, <0.62,0.72,1.20+0.125*(J+1.1)>, max(0,0.50*(1-(J+1.1)/7)) mPlain(C("5E8FC4")*(0.92+0.16*mod(J,2))) }
+  cone { T+z*(H+0.08+Rise/7*J), Cone*(1-J/7)+0.015, T+z*(H+0.08+Rise/7*(J+1.1)), max(0,Cone*(1-(J+1.1)/7)) mPlain(C("5E8FC4")*(0.92+(Small ? 0.06 : 0.16)*mod(J,2))) }
   #declare J = J + 1;
 #end
-cylinder { <0.62,0.72,2.0>, <0.62,0.72,2.36>, 0.022 mPlain(cWood) }
-mesh { triangle { <0.62,0.72,2.35>, <0.62,0.72,2.13>, <1.0,0.55,2.24> } mPlain(cRed) }
-object { HouA scale 1.12 rotate z*4 translate <1.34,1.50,0> }
-object { OakA scale 0.80 translate <1.58,0.50,0> }
-object { ShrB scale 0.5 translate <0.40,1.52,0> }
-object { ShrA scale 0.42 translate <1.84,1.10,0> }
+#declare F = (Small = 0 ? 1 : (Small = 1 ? 1.25 : 1.35));           // the flag
+#declare Top = H + 0.08 + Rise;
+cylinder { T+z*(Top-0.1), T+z*(Top+0.30*F), 0.022*F mPlain(cWood) }
+mesh { triangle { T+z*(Top+0.29*F), T+z*(Top+0.07*F), T+<0.38*F,-0.17*F,Top+0.18*F> } mPlain(cRed) }
+#if (Small = 0)
+  object { HouA scale 1.12 rotate z*4 translate <1.34,1.50,0> clipped_by { plane { -z, 0.02 } } }
+  object { OakA scale 0.80 translate <1.58,0.50,0> }
+  object { ShrB scale 0.5 translate <0.40,1.52,0> }
+  object { ShrA scale 0.42 translate <1.84,1.10,0> }
+#end
+#if (Small = 1)
+  object { HouA scale 1.02 rotate z*4 translate <1.16,1.24,0> clipped_by { plane { -z, 0.02 } } }
+  object { ShrB scale 0.6 translate <1.46,0.46,0> }
+#end

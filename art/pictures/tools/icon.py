@@ -1,6 +1,12 @@
-"""The program's icon."""
+"""The icon of the program at every size that a desktop wants, the small ones simplified."""
 import scene
 from iso import *
+
+# what is drawn (Small in icon.pov), its canvas and origin, width and depth of the outline, the sizes
+DRAWINGS = [(0, 156, (78, 73), 1.1, .55, (48, 64, 128, 256, 512)),
+            (1, 132, (66, 65), 1.8, .50, (32,)),
+            (2, 110, (55, 57), 2.6, .42, (16,))]
+SS = 8
 
 
 def box_to(a, n):
@@ -15,17 +21,18 @@ def box_to(a, n):
 
 
 def render(parts=None):
-    """A tower, a house and a tree, rendered at twice the size."""
-    w, h, ss = 156, 156, 4
-    ext = ['OX=78', 'OY=73', 'DomeN=24']
-    b = scene.povray('icon', 0, w, h, ss, ext) * 2
-    aux = scene.povray('icon', 1, w, h, ss, ext)
-    hit = (aux[..., 0] > 0).astype(float)
-    line = scene.outline(np.where(hit > 0, aux[..., 0], 1) * 60, ss, 1.1)
-    b = b * (1 - line[..., None] * .55)
-    cov, col = box_to(hit, 64), box_to(b * hit[..., None], 64)
-    col = grade(col / np.maximum(cov, 1e-6)[..., None], 1.05, 1.15, 1.12)
-    col = unsharp(col, cov > .02, .4, .7)
-    out = np.concatenate([col, cov[..., None]], -1)
-    out[cov < .02] = 0
-    Image.fromarray(np.round(np.clip(out, 0, 1) * 255).astype(np.uint8), 'RGBA').save(path('icon'), compress_level=9)
+    for small, w, (ox, oy), thin, dark, sizes in DRAWINGS:
+        given = ['OX=%d' % ox, 'OY=%d' % oy, 'DomeN=24', 'Small=%d' % small]
+        b = scene.povray('icon', 0, w, w, SS, given) * 2
+        aux = scene.povray('icon', 1, w, w, SS, given)
+        hit = (aux[..., 0] > 0).astype(float)
+        line = scene.outline(np.where(hit > 0, aux[..., 0], 1) * 60, SS, thin)
+        b = b * (1 - line[..., None] * dark)
+        for n in sizes:
+            cov, col = box_to(hit, n), box_to(b * hit[..., None], n)
+            col = grade(col / np.maximum(cov, 1e-6)[..., None], 1.05, 1.15, 1.12)
+            col = unsharp(col, cov > .02, .4, .7)
+            out = np.concatenate([col, cov[..., None]], -1)
+            out[cov < .02] = 0
+            out = np.round(np.clip(out, 0, 1) * 255).astype(np.uint8)
+            save(path('icon/%d' % n), out)

@@ -3,6 +3,7 @@
 The land and what stands on it are laid out here and rendered by pov/menu.pov; sky,
 mountains and the haze of the distance are painted here."""
 import country
+import wordmark
 from country import *
 
 W, H = 800, 600
@@ -157,7 +158,7 @@ def plants(w, sd):
     w.wood(.06 * seen * (Y > -1) * (Y < 45) * (sd > .5), 1.2, ('OakA', 'OakD', 'PopA', 'ShrA', 'OakC', 'ShrB', 'PopA', 'OakE'), (.9, 1.6), 0)
     w.wood(np.where((np.abs(sd - .5) < .25) & seen & (Y > -6), .30, 0), .6, ('ShrA', 'ShrB', 'Reeds', 'OakD', 'Reeds'), (.45, .9), 0)
     w.wood(.10 * seen * (Y < 2) * (Y > -8) * (sd > .5), .55, ('NearBush', 'ShrB', 'NearBush'), (.35, .75), 0)
-    for n, x, y, s, a in (('NearOak', -7.7, -6.2, 4.3, 0), ('NearOak', 7.9, -6.0, 4.3, 220), ('NearOak', 10.6, -3.0, 4.2, 40), ('NearBush', -5.0, -6.6, 1.7, 0), ('NearBush', -7.1, -7.6, 1.9, 30), ('NearBush', 7.6, -7.4, 1.7, 70), ('NearBush', -3.9, -7.0, 1.1, 80),
+    for n, x, y, s, a in (('FrontOak', -7.7, -6.2, 4.3, 0), ('FrontOak', 7.9, -6.0, 4.3, 220), ('FrontOak', 10.6, -3.0, 4.2, 40), ('NearBush', -5.0, -6.6, 1.7, 0), ('NearBush', -7.1, -7.6, 1.9, 30), ('NearBush', 7.6, -7.4, 1.7, 70), ('NearBush', -3.9, -7.0, 1.1, 80),
                           ('NearBush', 6.3, -7.0, 1.5, 10), ('NearBush', 5.5, -7.4, 1.0, 60), ('NearBush', -6.2, -4.9, 1.5, 200), ('NearBush', 8.0, -4.0, 1.5, 100)):
         w.put(n, x, y, s, a, .05)
     for k in range(1100):
@@ -240,12 +241,15 @@ def main():
     b = b * (1 - line[..., None] * .38 * np.exp(-dist / 45)[..., None])
     haze = (1 - np.exp(-(np.clip(dist - 8, 0, None) / 135) ** 1.5))[..., None]
     b = b * (1 - haze) + to_lin(np.array([.84, .80, .76])) * haze
+    pictures = []
     for s in SCALES:
         cov = box_down(hit, ss // s)[..., None]
         col = box_down(b * hit[..., None], ss // s) / np.maximum(cov, 1e-6)
         col = grade(col, 1.02, 1.03, 1.12, .48)
         img = to_srgb(cov * to_lin(col) + (1 - cov) * to_lin(sky(s)))
         img = unsharp(img, np.ones(img.shape[:2], bool), .35, .8)
+        pictures.append(img)
+    for s, img in zip(SCALES, wordmark.paint(pictures, SCALES)):
         save_rgb('panel/menu', img, s)
     print('menu: %.0f s' % (time.time() - t))
 
