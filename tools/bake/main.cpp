@@ -14,6 +14,7 @@
 #include "platform/browser/prediction.h"
 #include "platform/glyphs.h"
 #include "platform/png.h"
+#include "platform/skin.h"
 #include "shell/menu_controls.h"
 
 namespace {
@@ -95,6 +96,9 @@ std::set<std::string> picturesOfMenu() {
   std::set<std::string> names{shell::kMenuBackground};
   for (const platform::ControlDesign& row : shell::menuControls()) {
     if (row.image != nullptr) names.insert(row.image);
+  }
+  for (int look = 0; look < platform::kLooks; ++look) {
+    names.insert(platform::lookDesign(static_cast<platform::Look>(look)).file);
   }
   return names;
 }
