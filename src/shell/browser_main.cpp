@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/browser/browser_clipboard.h"
 #include "platform/browser/browser_clock.h"
 #include "platform/browser/browser_display.h"
 #include "platform/browser/browser_media.h"
@@ -18,14 +19,18 @@ using platform::Handed;
 namespace {
 
 struct Game {
+  explicit Game(int scale) : assets(scale) {}
+
   platform::BrowserClock clock;
   platform::BrowserDisplay display;
   platform::BrowserMedia media;
+  platform::BrowserClipboard clipboard;
   shell::Assets assets;
   platform::Random random{&clock, clock.ticks()};
   platform::Random walkerRandom{&clock, clock.ticks()};
   shell::Services services{
-      clock, random, walkerRandom, media, display, assets, platform::kBrowserFolder, {}};
+      clock, random,    walkerRandom, media, display, assets, platform::kBrowserFolder,
+      {},    &clipboard};
   std::unique_ptr<shell::Program> program;
   bool picturesCame = false;  // those of the game screen
 };
@@ -50,11 +55,11 @@ bool waitsForPictures() {
 
 }  // namespace
 
-/// Opens the menu, at first and after an EXIT GAME. Returns 0 where that failed; the page has been given
-/// a message then.
-VELLMORAN_EXPORT("start") int start() {
+/// Opens the menu, at first and after an EXIT GAME, to be drawn at a scale of 1 or 2. Returns 0 where
+/// that failed; the page has been given a message then.
+VELLMORAN_EXPORT("start") int start(int scale) {
   if (game == nullptr) {
-    game = std::make_unique<Game>();
+    game = std::make_unique<Game>(scale);
     std::string error;
     if (!game->assets.open("data", error)) {
       game->display.message("Error", error.c_str());
@@ -98,15 +103,13 @@ VELLMORAN_EXPORT("pointer") void pointer(int x, int y) {
   game->program->settle();
 }
 
-VELLMORAN_EXPORT("press") void press(int x, int y) {
-  desk().pointerMoved({x, y});
-  desk().buttonDown();
+VELLMORAN_EXPORT("press") void press(int x, int y, int shift, int control) {
+  desk().buttonDown({x, y}, {shift != 0, control != 0});
   game->program->settle();
 }
 
 VELLMORAN_EXPORT("release") void release(int x, int y) {
-  desk().pointerMoved({x, y});
-  desk().buttonUp();
+  desk().buttonUp({x, y});
   game->program->settle();
 }
 
@@ -122,8 +125,8 @@ VELLMORAN_EXPORT("text") void text(char* bytes, int size) {
 }
 
 /// A key by its place in platform::Key.
-VELLMORAN_EXPORT("key") void key(int number) {
-  desk().key(static_cast<platform::Key>(number));
+VELLMORAN_EXPORT("key") void key(int number, int shift, int control) {
+  desk().key(static_cast<platform::Key>(number), {shift != 0, control != 0});
   game->program->settle();
 }
 

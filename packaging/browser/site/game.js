@@ -2,7 +2,7 @@
 import { sizes } from './sizes.js';
 import { Hands } from './hands.js';
 import { Machine } from './machine.js';
-import { Screen } from './screen.js';
+import { chosenScale, Screen } from './screen.js';
 import { Shelf } from './shelf.js';
 import { Sound } from './sound.js';
 import { Store } from './store.js';
@@ -21,6 +21,7 @@ const machine = new Machine();
 const store = new Store();
 const turn = new Turn(leave);
 const sound = new Sound(`./${release}`, fetchKept);
+const scale = 'menu2.pack' in sizes ? chosenScale() : 1;
 let screen;
 let timer = 0;
 let ended = true;
@@ -104,6 +105,7 @@ const page = {
   ticks: () => performance.now() * 1e6 + Math.random() * 1e6,
   show: (...where) => screen.show(machine.call.memory, ...where),
   message: (title, text) => say(machine.line(text), 'Start again', () => location.reload()),
+  copy: (text, length) => navigator.clipboard?.writeText(machine.text(text, length)).catch(() => {}),
   keep: (path, pathLength, bytes, length) => keep(machine.text(path, pathLength), bytes ? machine.bytes(bytes, length) : null),
   cue: (number) => sound.cue(number),
   openTheme: (number) => sound.openTheme(number),
@@ -128,7 +130,7 @@ function run() {
 }
 
 function start() {
-  ended = machine.call.start() === 0;
+  ended = machine.call.start(scale) === 0;
   if (ended) return;
   clearCard();
   run();
@@ -215,11 +217,12 @@ function turnScreen() {
 const SIMD = Uint8Array.of(0, 97, 115, 109, 1, 0, 0, 0, 1, 5, 1, 96, 0, 1, 123, 3, 2, 1, 0, 10, 10, 1, 8, 0, 65, 0, 253, 15, 253, 98, 11);
 
 async function load() {
-  const first = ['vellmoran.wasm.pack', 'menu1.pack'];
+  const first = ['vellmoran.wasm.pack', `menu${scale}.pack`];
   const total = first.reduce((sum, name) => sum + sizes[name], 0);
   let came = 0;
   const progress = (bytes) => {
     came += bytes;
+    if (bar.hidden) return; // something else is being said
     bar.value = came / total;
     news.textContent = `Loading: ${(came / 1e6).toFixed(1)} of ${(total / 1e6).toFixed(1)} MB`;
   };
@@ -241,7 +244,7 @@ async function open() {
   await store.open();
   await loaded;
   for (const [path, bytes] of store.files) machine.call.putFile(...machine.hand(path), ...machine.hand(bytes));
-  screen = new Screen();
+  screen = new Screen(scale);
   new Hands(machine, screen, { pressed: () => sound.wake(), after: run });
   const shelf = new Shelf(machine, store, FOLDER, (path, bytes) => {
     machine.call.putFile(...machine.hand(path), ...machine.hand(bytes));
@@ -258,7 +261,7 @@ async function open() {
   if (!store.database) remark('This browser keeps nothing for this page: saved games last until it is closed. They can be taken out by the key "Saved games".');
   else if (sound.missing) remark('This browser plays no sound.');
 
-  await addPack('game1.pack');
+  await addPack(`game${scale}.pack`);
   readAhead();
   performance.mark('game loaded');
   await sound.fetchCues().catch(() => {});

@@ -1,6 +1,10 @@
 // What the player does with mouse, finger and keyboard, brought to the program.
 
-const KEYS = ['Backspace', 'Enter', 'Escape', 'ArrowLeft', 'ArrowRight', 'Home', 'End', 'Delete'];
+// In the order of platform::Key; the last three are pressed with Control. Pasting is left to the browser,
+// which then types what it has.
+const KEYS = ['Backspace', 'Enter', 'Escape', 'ArrowLeft', 'ArrowRight', 'Home', 'End', 'Delete', 'a', 'c', 'x'];
+const FIRST_WITH_CONTROL = KEYS.indexOf('a');
+const ONCE = ['Enter', 'Escape']; // however long they are held
 const REST = 16; // a pointer that has left counts as so far from the rim: it scrolls nothing
 const TAP = 10; // CSS pixels that a finger may move in a tap
 const NOTCH = 60; // CSS pixels of a wheel that count as one turn
@@ -46,7 +50,7 @@ export class Hands {
     this.last = this.screen.pictured(event);
     // A second button while one is held comes as a move.
     const changed = event.pointerType === 'mouse' && event.button >= 0;
-    if (changed && event.buttons & (1 << [0, 2, 1, 3, 4][event.button])) this.send('press', ...this.last);
+    if (changed && event.buttons & (1 << [0, 2, 1, 3, 4][event.button])) this.press(event);
     else if (changed) this.send('release', ...this.last);
     else this.send('pointer', ...this.last);
   }
@@ -59,10 +63,14 @@ export class Hands {
     if (event.pointerType === 'touch' && !event.isPrimary) return;
     canvas.setPointerCapture(event.pointerId);
     this.last = this.screen.pictured(event);
-    if (event.pointerType !== 'touch') return this.send('press', ...this.last);
+    if (event.pointerType !== 'touch') return this.press(event);
     this.finger = event.pointerId;
     this.tap = event;
     this.send('pointer', ...this.last);
+  }
+
+  press(event) {
+    this.send('press', ...this.last, event.shiftKey, event.ctrlKey || event.metaKey);
   }
 
   up(event) {
@@ -75,7 +83,7 @@ export class Hands {
     const far = Math.hypot(event.clientX - this.tap.clientX, event.clientY - this.tap.clientY) > TAP;
     if (!far) {
       const point = this.screen.pictured(this.tap);
-      this.send('press', ...point);
+      this.send('press', ...point, false, false);
       this.send('release', ...point);
     }
     this.cancel(event);
@@ -107,17 +115,19 @@ export class Hands {
 
   key(event) {
     if (document.querySelector('dialog[open]')) return;
+    const control = event.ctrlKey || event.metaKey;
     const number = KEYS.indexOf(event.key);
     if (number < 0 || event.altKey || event.isComposing || event.target instanceof HTMLButtonElement) return;
+    if (number >= FIRST_WITH_CONTROL && !control) return;
     event.preventDefault();
-    this.send('key', number);
+    if (!event.repeat || !ONCE.includes(event.key)) this.send('key', number, event.shiftKey, control);
   }
 
   type(event) {
     if (event.isComposing) return;
     const typed = keyboard.value.replace(MARK, '');
     if (typed !== '') this.send('text', ...this.machine.hand(typed));
-    else if (keyboard.value === '') this.send('key', KEYS.indexOf('Backspace'));
+    else if (keyboard.value === '') this.send('key', KEYS.indexOf('Backspace'), false, false);
     keyboard.value = MARK;
   }
 }

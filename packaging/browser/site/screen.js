@@ -8,8 +8,16 @@ const canvas = document.getElementById('game');
 const keys = document.getElementById('keys');
 const context = canvas.getContext('2d', { alpha: false });
 
+// Pictures of twice the size are worth their transfer where the picture is enlarged by more than this.
+const ENLARGED = 1.25;
+
+export const chosenScale = () =>
+  (Math.min(innerWidth / WIDTH, innerHeight / HEIGHT) * devicePixelRatio > ENLARGED ? 2 : 1);
+
 export class Screen {
-  constructor() {
+  constructor(scale) {
+    canvas.width = WIDTH * scale;
+    canvas.height = HEIGHT * scale;
     this.arrange();
     addEventListener('resize', () => this.arrange());
     matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener('change', () => this.arrange());

@@ -17,6 +17,9 @@ VELLMORAN_IMPORT("show")
 void pageShow(const std::uint8_t* pixels, int width, int x, int y, int w, int h);
 VELLMORAN_IMPORT("message") void pageMessage(const char* title, const char* text);
 
+/// Puts text on the clipboard that other programs share.
+VELLMORAN_IMPORT("copy") void pageCopy(const char* text, int length);
+
 /// Keeps a file for the next visit; a null pointer forgets it.
 VELLMORAN_IMPORT("keep")
 void pageKeep(const char* path, int pathLength, const char* bytes, int length);
