@@ -1,4 +1,5 @@
 """Chromium and Firefox behind the same few calls: go, run, press, keys, new_page, kill."""
+import atexit
 import itertools
 import json
 import os
@@ -22,8 +23,10 @@ class Browser:
     path = ''  # of the socket, behind the address that the browser prints
 
     def __init__(self, command, announces, size):
+        os.makedirs(self.profile, exist_ok=True)
         self.log = open(os.path.join(self.profile, 'log'), 'w+')
         self.process = subprocess.Popen(command, stdout=self.log, stderr=self.log, start_new_session=True)
+        atexit.register(self.kill)
         self.numbers = itertools.count(1)
         self.socket = websocket.create_connection(self.wait_for(announces) + self.path, timeout=60,
                                                   suppress_origin=True)
@@ -49,6 +52,7 @@ class Browser:
                 return answer['result']
 
     def kill(self):
+        atexit.unregister(self.kill)
         os.killpg(self.process.pid, signal.SIGKILL)
         self.process.wait()
 
