@@ -133,7 +133,10 @@ bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& fo
   const auto n = static_cast<std::size_t>(file.number);
   const platform::Surface& loaded = file.kind == mask ? set.picMask[n] : set.picTile[n];
   const Rect wanted{0, 0, file.size.width, file.size.height};
-  if (loaded.bounds() == wanted) return true;
+  if (loaded.bounds() == wanted) {
+    if (file.kind == pair) set.rows[n] = platform::pairRows(set.picTile[n], set.picMask[n]);
+    return true;
+  }
   error = path + ": is " + inWords(loaded.pixelBounds()) + " pixels, not " +
           inWords(loaded.inPixels(wanted));
   return false;

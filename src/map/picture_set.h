@@ -8,6 +8,7 @@
 #include <array>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "platform/surface.h"
 
@@ -19,6 +20,7 @@ inline constexpr int kWorkingSlot = 21;
 struct PictureSet {
   std::array<platform::Surface, kPictures> picTile;
   std::array<platform::Surface, kPictures> picMask;
+  std::array<std::vector<platform::PairRow>, kPictures> rows;  // of the pairs that came from a file
 
   /// An empty set for surfaces of one scale.
   explicit PictureSet(int scale = 1);

@@ -31,7 +31,8 @@ Point flatPlace(const CellGeometry& g, int x, int y) {
 void drawCell(Stage& stage, const CellGeometry& g, int x, int y, Point place) {
   const auto image = static_cast<std::size_t>(stage.game.tileImage(x, y));
   stage.canvas.pair(place.x, place.y, g.lngTileWidth, g.lngTileHeight,
-                    stage.pictures.picTile[image], stage.pictures.picMask[image]);
+                    stage.pictures.picTile[image], stage.pictures.picMask[image],
+                    stage.pictures.rows[image]);
   stage.game.blitCount += 2;
 }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <span>
 
 #include "platform/damage.h"
 #include "platform/surface.h"
@@ -39,9 +40,10 @@ class Canvas {
                                            sourceHeight, operation));
   }
   /// SRCAND of `tile`, then SRCPAINT of `mask`.
-  void pair(int x, int y, int width, int height, const Surface& tile, const Surface& mask) {
+  void pair(int x, int y, int width, int height, const Surface& tile, const Surface& mask,
+            std::span<const PairRow> rows = {}) {
     if (blank_) return;
-    note({x, y, width, height}, blitPair(surface_, x, y, width, height, tile, mask));
+    note({x, y, width, height}, blitPair(surface_, x, y, width, height, tile, mask, rows));
   }
   /// Clears the surface to black and shows it at once. A blank surface takes drawing again.
   void clear() {

@@ -1,5 +1,6 @@
 #include "platform/surface.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "platform/vector_loops.h"
@@ -53,6 +54,13 @@ bool pairRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict tile,
     to[i] = now;
   }
   return change != 0;
+}
+
+// Most of what a redraw draws is there already, and is only read.
+bool solidRow(std::uint8_t* to, const std::uint8_t* from, std::size_t count) {
+  if (std::memcmp(to, from, count) == 0) return false;
+  std::memcpy(to, from, count);
+  return true;
 }
 
 using RowOperation = bool (*)(std::uint8_t*, const std::uint8_t*, std::size_t);
@@ -171,8 +179,26 @@ bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surf
   return changed;
 }
 
+std::vector<PairRow> pairRows(const Surface& tile, const Surface& mask) {
+  std::vector<PairRow> rows;
+  const Rect all = tile.pixelBounds();
+  const auto isClear = [&](int x, int y) {
+    return tile.pixel(x, y) == kWhite && mask.pixel(x, y) == kBlack;
+  };
+  for (int y = 0; y < all.height; ++y) {
+    int first = 0;
+    int end = all.width;
+    while (first < end && isClear(first, y)) ++first;
+    while (end > first && isClear(end - 1, y)) --end;
+    const bool solid = std::memcmp(tile.row(y) + bytes(first), mask.row(y) + bytes(first),
+                                   bytes(end - first)) == 0;
+    rows.push_back({static_cast<std::int16_t>(first), static_cast<std::int16_t>(end), solid});
+  }
+  return rows;
+}
+
 bool blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
-              const Surface& mask) {
+              const Surface& mask, std::span<const PairRow> rows) {
   const Rect area = copied(target, {x, y, width, height}, tile, 0, 0);
   if (area != copied(target, {x, y, width, height}, mask, 0, 0)) {
     const bool cut = BitBlt(target, x, y, width, height, tile, 0, 0, SRCAND);
@@ -181,9 +207,18 @@ bool blitPair(Surface& target, int x, int y, int width, int height, const Surfac
   bool changed = false;
   const Point place = target.inPixels(Point{x, y});
   for (int row = area.top; row < area.bottom(); ++row) {
-    const std::size_t from = bytes(area.left - place.x);
-    changed |= pairRow(target.row(row) + bytes(area.left), tile.row(row - place.y) + from,
-                       mask.row(row - place.y) + from, bytes(area.width));
+    PairRow part{static_cast<std::int16_t>(area.left - place.x),
+                 static_cast<std::int16_t>(area.right() - place.x), false};
+    if (!rows.empty()) {
+      const PairRow& known = rows[static_cast<std::size_t>(row - place.y)];
+      part = {std::max(part.first, known.first), std::min(part.end, known.end), known.solid};
+      if (part.first >= part.end) continue;
+    }
+    std::uint8_t* const to = target.row(row) + bytes(place.x + part.first);
+    const std::uint8_t* const white = tile.row(row - place.y) + bytes(part.first);
+    const std::uint8_t* const black = mask.row(row - place.y) + bytes(part.first);
+    const std::size_t count = bytes(part.end - part.first);
+    changed |= part.solid ? solidRow(to, black, count) : pairRow(to, white, black, count);
   }
   return changed;
 }

@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
+#include <vector>
 
 #include "platform/color.h"
 #include "platform/geometry.h"
@@ -81,9 +83,19 @@ bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surf
                 int sourceX, int sourceY, int sourceWidth, int sourceHeight,
                 std::uint32_t operation);
 
+/// The part of a row of a pair outside of which its tile is white and its mask black, so that drawing
+/// it changes nothing: from pixel `first` up to the one before `end`.
+struct PairRow {
+  std::int16_t first;
+  std::int16_t end;
+  bool solid;  // tile and mask are alike in that part: drawing it is a plain copy
+};
+/// Those of a pair of surfaces of equal size.
+std::vector<PairRow> pairRows(const Surface& tile, const Surface& mask);
+
 /// SRCAND of `tile` and then SRCPAINT of `mask`, both from (0, 0) with the same box, in one walk over
 /// the pixels. The result is to the bit what the two copies give.
 bool blitPair(Surface& target, int x, int y, int width, int height, const Surface& tile,
-              const Surface& mask);
+              const Surface& mask, std::span<const PairRow> rows = {});
 
 }  // namespace platform

@@ -62,6 +62,28 @@ TEST(Raster, PairEqualsTheTwoCopiesAlsoWithPicturesOfUnequalSize) {
   }
 }
 
+TEST(Raster, PairDrawnByItsRowsEqualsThePairDrawnWhole) {
+  Dice dice(3);
+  for (int round = 0; round < 400; ++round) {
+    const int scale = 1 + round % 2;
+    Surface one(40, 20, scale), tile(roll(dice, 1, 30), roll(dice, 1, 30), scale);
+    Surface mask(tile.width(), tile.height(), scale);
+    one.clear({90, 140, 70});
+    tile.clear(kWhite);
+    for (int dots = roll(dice, 0, 40); dots > 0; --dots) {
+      const Point at{roll(dice, 0, 29), roll(dice, 0, 29)};
+      if (round % 3 != 0) tile.setPixel(at.x, at.y, {10, 20, 30});
+      if (round % 3 != 1) mask.setPixel(at.x, at.y, {10, 20, 30});
+    }
+    Surface two = one.clone();
+    const int x = roll(dice, -30, 45), y = roll(dice, -30, 25);
+    const int width = roll(dice, 0, 40), height = roll(dice, 0, 40);
+    const bool changed = blitPair(one, x, y, width, height, tile, mask);
+    ASSERT_EQ(blitPair(two, x, y, width, height, tile, mask, pairRows(tile, mask)), changed);
+    ASSERT_TRUE(same(one, two)) << "round " << round;
+  }
+}
+
 TEST(Damage, LosesNoPixelWhateverIsAdded) {
   Dice dice(4);
   for (int round = 0; round < 50; ++round) {
