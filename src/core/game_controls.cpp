@@ -61,8 +61,8 @@ constexpr ControlDesign line(int index) {
 }
 
 constexpr ControlDesign view(int n, const char* text) {
-  // Six keys of one width: the row is a pixel wider than they are.
-  const Rect key{3 + 23 * n + (n > 2 ? 1 : 0), 54, 23, 23};
+  // The keys fill the row, every second a pixel wider.
+  const Rect key{2 + 23 * n + n / 2, 54, 23 + n % 2, 23};
   return knob("seer", Frame17, {24 * n, 56, 25, 25}, key, text, n);
 }
 constexpr ControlDesign month(const char* name, int column) {
@@ -296,7 +296,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Frame3] = frame("Frame3", bilgi, {24, 24, 249, 81}, kRow);
   t[Frame3].opaque = false;  // the sheet inside keeps clear of the title and the button
   t[bilgilabel] =
-      faced(Face::sheet, {0, 8, 249, 70}, label("bilgilabel", Frame3, {9, 13, 231, 60}, ""));
+      faced(Face::sheet, {0, 8, 249, 66}, label("bilgilabel", Frame3, {9, 12, 231, 58}, ""));
   t[Command21] = button("Command21", bilgi, {112, 104, 81, 25}, "OK");
 
   t[mscompfrm] = hidden(frame("mscompfrm", kNoParent, {kParked, 200, 257, 121}, kFloating));

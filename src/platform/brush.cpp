@@ -166,7 +166,7 @@ void Brush::line(const Rect& rect, std::string_view caption, FontSize size, Colo
 
 void Brush::caption(const Rect& key, std::string_view text, FontSize size, Color color) const {
   constexpr int kRoom = 6;  // from the letters to the end of the key, its dark edge included
-  constexpr int kOwn = 2;   // of a caption's width its letters leave this free at its ends
+  constexpr int kOwn = 1;   // of a caption's width its letters leave this free
   while (text.ends_with(' ')) text.remove_suffix(1);
   while (text.starts_with(' ')) text.remove_prefix(1);
   const int width = font_.width(text, size);

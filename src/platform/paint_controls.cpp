@@ -37,7 +37,7 @@ void paintTitle(const Brush& brush, const Control& control, const Rect& place) {
 void paintGroup(const Brush& brush, const Control& control, const Rect& place) {
   const FontSize size = control.design->font;
   const int half = lineHeight(size) / 2;
-  const Rect edge{place.left, place.top + half, place.width - 1, place.height - half - 1};
+  const Rect edge{place.left + 2, place.top + half, place.width - 5, place.height - half - 3};
   if (control.border) {
     brush.outline(moved(edge, 1, 1), kBright);
     brush.outline(edge, kBrass);
@@ -51,7 +51,11 @@ void paintGroup(const Brush& brush, const Control& control, const Rect& place) {
 
 void paintFrame(const Brush& brush, const Control& control, const Rect& place) {
   const ControlDesign& design = *control.design;
-  if (design.opaque) brush.fill(place, control.back);
+  if (design.face == Face::sheet) {
+    brush.look(faceOf(control, place), Look::sheet);
+  } else if (design.opaque) {
+    brush.fill(place, control.back);
+  }
   if (design.heading == Heading::group) {
     paintGroup(brush, control, place);
     return;
@@ -59,6 +63,11 @@ void paintFrame(const Brush& brush, const Control& control, const Rect& place) {
   // A panel stands out of the screen; a frame within a panel is let into it.
   if (control.border) brush.look(place, isPanel(control) ? Look::frame : Look::inlay);
   if (design.heading == Heading::title) paintTitle(brush, control, place);
+}
+
+// Where the caption of a key is centred: one that is up shows its lower side too.
+Rect faceAbove(const Rect& key, bool down) {
+  return {key.left, key.top, key.width, key.height - (down ? 0 : 2)};
 }
 
 // A label that acts as a button.
@@ -75,9 +84,7 @@ void paintKey(const Brush& brush, const Control& control, const Rect& key,
     return;
   }
   brush.look(key, down ? lit ? Look::keyDown : Look::keyHeld : lit ? Look::keyLit : Look::key);
-  const int sink = down ? 1 : -1;  // a key that is up shows its lower side too
-  brush.caption({key.left, key.top + (sink + 1) / 2, key.width, key.height + sink - 1},
-                control.text, control.design->font, control.fore);
+  brush.caption(faceAbove(key, down), control.text, control.design->font, control.fore);
 }
 
 // The text of a label, over as many lines as it takes.
@@ -226,9 +233,7 @@ Rect paintedBox(const Control& control, const Rect& place) {
 void paintButton(const Brush& brush, const Rect& place, std::string_view caption, FontSize size,
                  Color color, bool down) {
   brush.look(place, down ? Look::keyHeld : Look::key);
-  const int sink = down ? 1 : -1;
-  brush.line({place.left, place.top + (sink + 1) / 2, place.width, place.height + sink - 1},
-             caption, size, color, Align::centre);
+  brush.line(faceAbove(place, down), caption, size, color, Align::centre);
 }
 
 void paintControl(const Brush& brush, const Control& control, const Rect& place,
@@ -238,7 +243,7 @@ void paintControl(const Brush& brush, const Control& control, const Rect& place,
   const Brush within = brush.within(place);
   switch (design.kind) {
     case ControlKind::frame:
-      paintFrame(within, control, place);
+      paintFrame(brush, control, place);
       break;
     case ControlKind::label:
       paintLabel(brush, control, place, state);

@@ -61,7 +61,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   plateRow(Picture6, "Picture6", stcampaign, "stcampaign", Frame7, 16, 8, "CAMPAIGN");
   plateRow(Picture9, "Picture9", stpuzzle, "stpuzzle", Frame7, 16, 48, "PUZZLE PLAY");
   plateRow(Picture7, "Picture7", stopen, "stopen", Frame7, 16, 88, "OPEN PLAY");
-  t[Label4] = label("Label4", Frame7, {24, 136, 137, 97}, "", FontSize::pt9);
+  t[Label4] = faced(Face::sheet, {16, 130, 155, 110},
+                    label("Label4", Frame7, {24, 136, 137, 97}, "", FontSize::pt9));
   plateRow(Picture8, "Picture8", stback, "stback", Frame7, 16, 248, "BACK TO MAIN");
 
   t[campaign] = panel("campaign", 585, 441);
@@ -73,7 +74,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Command1] = {.name = "Command1",
                  .kind = ControlKind::box,
                  .parent = campaign,
-                 .place = {24, 56, 320, 345},
+                 .place = {28, 60, 313, 337},
                  .back = kPanel,
                  .opaque = true,
                  .border = true};
@@ -93,9 +94,11 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Framecpgn] = panel("Framecpgn", 481, 417);
   t[briefingplate] = plate("briefingplate", Framecpgn, 481, 417);
   t[Frame1] = group("Frame1", Framecpgn, {24, 24, 433, 241}, "");
-  t[cpgninfo] = label("cpgninfo", Frame1, {16, 28, 401, 201}, "");
+  t[cpgninfo] =
+      faced(Face::sheet, {8, 20, 417, 213}, label("cpgninfo", Frame1, {16, 28, 401, 201}, ""));
   t[Frame5] = group("Frame5", Framecpgn, {24, 272, 433, 73}, "GOALS");
-  t[goalinfo] = label("goalinfo", Frame5, {16, 24, 401, 41}, "");
+  t[goalinfo] =
+      faced(Face::sheet, {8, 20, 417, 46}, label("goalinfo", Frame5, {16, 24, 401, 41}, ""));
   t[Command11] = button("Command11", Framecpgn, {136, 360, 97, 29}, "Cancel");
   t[Command14] = button("Command14", Framecpgn, {256, 360, 97, 29}, "Play");
 
@@ -153,7 +156,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
   t[Frame10] = panel("Frame10", 393, 369);
   t[creditsplate] = plate("creditsplate", Frame10, 393, 369);
-  t[Frame11] = frame("Frame11", Frame10, {24, 24, 345, 321}, kPlate);
+  t[Frame11] =
+      faced(Face::sheet, {16, 16, 361, 337}, frame("Frame11", Frame10, {24, 24, 345, 321}, kPlate));
   t[creditstitle] = label("creditstitle", Frame11, {16, 0, 305, 25}, "VELLMORAN CREDITS",
                           FontSize::pt14, Align::centre);
   t[designby] = label("designby", Frame11, {64, 32, 225, 25},

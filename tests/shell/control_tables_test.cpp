@@ -71,9 +71,27 @@ Names overlapping(Play& play) {
   return names;
 }
 
+/// Faces that reach out of what holds their control, or over the face of another.
+Names misplacedFaces(Play& play) {
+  Names names;
+  each(play, [&](platform::Form& form, int id, const std::string& name) {
+    const platform::ControlDesign& design = *form[id].design;
+    if (design.face == platform::Face::none) return;
+    const platform::Rect& holder = form[design.parent].place;
+    if (!inside(design.faceBox, {0, 0, holder.width, holder.height})) names.insert(name);
+    each(play, [&](platform::Form&, int other, const std::string& otherName) {
+      const platform::ControlDesign& next = *form[other].design;
+      if (other <= id || next.parent != design.parent || next.face == platform::Face::none) return;
+      if (!intersection(design.faceBox, next.faceBox).empty()) names.insert(name + " " + otherName);
+    });
+  });
+  return names;
+}
+
 TEST(ControlTables, HoldEveryControlInItsPlace) {
   Play play;
   EXPECT_EQ(reachingOut(play), Names{});
+  EXPECT_EQ(misplacedFaces(play), Names{});
   Names marks;  // the mark of a solved level stands on its row
   for (int n = 10; n <= 19; ++n) marks.insert("Label20 Picture" + std::to_string(n));
   EXPECT_EQ(overlapping(play), marks);
@@ -81,6 +99,7 @@ TEST(ControlTables, HoldEveryControlInItsPlace) {
   play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
   // The map slides under the screen; the plate of the right-hand panel goes on behind its rim.
   EXPECT_EQ(reachingOut(play), (Names{"Frame6", "picScroll"}));
+  EXPECT_EQ(misplacedFaces(play), Names{});
   // The name of what the info mode found takes the place of the tool's name and price; the two lines
   // that end the demonstration are set close; GOALS takes presses past the rim of its plate.
   EXPECT_EQ(overlapping(play), (Names{"Frame7 Label3", "Label16 Label17", "buildcurrent namlbl",
@@ -111,6 +130,11 @@ bool fits(const Control& control, std::string_view text, platform::Font& font) {
       return width + 6 <= place.width && line <= place.height + 2;
     default:
       break;
+  }
+  if (design.face == platform::Face::key) {
+    // Five pixels to the rim on either side, the letters drawn together by a pixel at most.
+    const int gaps = std::max(0, static_cast<int>(text.size()) - 1);
+    return width - gaps <= design.faceBox.width - 2 * 6 && line <= design.faceBox.height;
   }
   const int sides = design.border ? 4 : 0;
   const platform::Size size = measureLines(text, place.width - sides, font, design.font);

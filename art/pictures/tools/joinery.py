@@ -99,7 +99,7 @@ class Relief:
         d = self.box(x0, y0, x1, y1, 2.2)
         self.lay(d, BRASS, base, .75, .55, metal=1)
         self.lay(d - 1, parchment(self.x, self.y, seed, wrap), base - .35)
-        self.tint(.9 * np.exp(-np.clip(d - 1, 0, None) / 2.2) * (d > 1), [.88, .82, .70])
+        self.tint(np.clip(1 - (d - 1) / 4.5, 0, 1) ** 2 * (d > 1), [.88, .82, .70])
 
     def rivet(self, x, y, r=1.9):
         base = self.height(x, y)

@@ -8,10 +8,10 @@ from joinery import *
 
 PALE = rgb('CBDDF1')                            # enamel of keys; black on it 15 to 1
 HELD = rgb('8CB3F2')                            # of a key that stays down; 9.6 to 1
-COBALT = rgb('34569F')                          # of a key under the pointer, for yellow letters
+COBALT = rgb('254482')                          # of a key under the pointer; yellow on it over 7 to 1
 KEY = (48, 26)
 FRAME, CORNER, BEAD = 68, 14, 3.1
-SHEET = (76, 44)
+SHEET = (108, 76)
 
 
 def raised(face, lit):
@@ -22,9 +22,9 @@ def raised(face, lit):
     side = r.box(.9, .9, w - .9, h - .7, 2.2)
     r.lay(side, face * .61, -.9, 1.2, 1.2, gloss=.05)
     cap, v = r.box(1.1, 1.0, w - 1.1, h - 2.3, 2.2), r.y / h
-    r.lay(cap, face * (1.05 - .11 * v)[..., None], .4, 1.2, 1.7, gloss=.42)
+    r.lay(cap, face * (1.05 - .11 * v)[..., None], .4, 1.2, 1.7, gloss=.10 if lit else .42)
     sheen = np.clip(1 - np.abs(v - .26) / .22, 0, 1) * (cap > 1.6)
-    r.c = r.c + (1 - r.c) * ((.13 if lit else .30) * sheen)[..., None]
+    r.c = r.c + (1 - r.c) * ((.05 if lit else .30) * sheen)[..., None]
     if lit:
         r.lay(np.where(side <= 0, r.box(0, 0, w, h, 2.6), -1), BRASS * 1.1, -.3, .8, .6, metal=1)
     return r
@@ -87,7 +87,7 @@ def sheet():
 
 
 def render(parts=None):
-    for name, r in (('key', raised(PALE, False)), ('keylit', raised(COBALT, True)), ('keyheld', lowered(HELD)), ('keydown', lowered(COBALT * .86)),
+    for name, r in (('key', raised(PALE, False)), ('keylit', raised(COBALT, True)), ('keyheld', lowered(HELD)), ('keydown', lowered(COBALT * .95)),
                     ('rim', rim(PALE, False)), ('rimlit', rim(PALE * 1.06, True)), ('frame', frame()), ('inlay', inlay()), ('sheet', sheet())):
         for s, a in zip(SCALES, r.pictures(SCALES)):
             save_rgb('panel/' + name, a, s)
