@@ -1,5 +1,5 @@
-// The source tree is read from the bottom up; this guards the order of its layers and what the
-// layers above the platform keep their hands off.
+// Guards the order of the layers of the source tree, and the headers and functions that only the
+// platform may use.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,7 +1,7 @@
-// What can be built: one row for each kind, with all that the game knows of it.
+// What can be built: one row for each kind, with everything that the game needs to know about it.
 //
 // A building is the set of cells with one building id. Its anchor is the cell with the lowest x and
-// y, and the anchor's code stands for the building in scans.
+// y; scans recognise the building by the anchor's code.
 #pragma once
 
 #include <array>

@@ -21,14 +21,14 @@ inline constexpr int kTools = 10;
 /// The numbers of the services, which are also those of the access views.
 enum Service { kMarket = 1, kSchool = 2, kTavern = 3, kChurch = 4, kDoctor = 5 };
 
-/// What the menu owns: values that outlive a game and speak between the two screens.
+/// What the menu owns: values that outlive a game and pass between the two screens.
 struct ProgramValues {
   Number gMission;    // 1..10 campaign, 11 for one moment, 15 open play, 16 demonstration, 20..29
                       // puzzles
   Number gYear;       // calendar year, from 1715
   Number gMapSize;    // side S of the play square, even, 4..28
   Number gFertility;  // food factor of farms: 1.2, 1 or 0.8
-  Number gSoundOn;    // sound effects wanted, 1 or 0
+  Number gSoundOn;    // sound effects on, 1 or 0
 
   int gStartMoney = 0;       // money choice: 1, 2 or 3
   int gNewMap = 0;           // the game screen must build a new map

@@ -1,5 +1,5 @@
 // The timers of the game screen. They and the clicks are all the control flow that a game has:
-// which handler a tick runs stands in shell/game_handlers.cpp.
+// shell/game_handlers.cpp lists the handler of each.
 #pragma once
 
 #include <array>

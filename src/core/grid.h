@@ -1,4 +1,4 @@
-// Tables of a fixed size whose index ranges stand in their type. A debug build checks every index.
+// Tables of a fixed size with their index ranges as template arguments. A debug build checks every index.
 #pragma once
 
 #include <array>
@@ -41,7 +41,7 @@ class Row {
 };
 
 /// A table addressed (x, y) with x in LowX .. HighX and y in LowY .. HighY; the cells of one y
-/// stand side by side, as most scans run over y outside and x inside.
+/// are contiguous, as most scans run over y outside and x inside.
 template <class T, int LowX, int HighX, int LowY, int HighY>
 class Table {
  public:
@@ -71,7 +71,7 @@ class Table {
 };
 
 /// A grid over the map: cells -10 .. 39 both ways. The map proper is 0 .. 30; the margin lets rules
-/// look a few cells beside a building without asking where the map ends.
+/// look a few cells beside a building without checking for the edge of the map.
 template <class T>
 using CellGrid = Table<T, -10, 39, -10, 39>;
 

@@ -25,7 +25,7 @@ constexpr bool isPuzzle(double mode) {
 
 enum class Backdrop { none, countryside, river, townWalls };
 
-/// What a campaign mission asks for, each at least; 0 where it asks for nothing.
+/// What a campaign mission requires, each at least; 0 for no requirement.
 struct Goal {
   int people = 0;
   int food = 0;

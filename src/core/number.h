@@ -1,7 +1,7 @@
-// Numbers that know whether they were ever given a value.
+// Numbers that may be unset.
 //
-// A saved game keeps the difference: a value that nothing was ever given is an empty field in the
-// file, is read back as unset, and goes out empty again. Wherever it is used it counts as 0.
+// A saved game keeps the difference: an unset value is an empty field in the file, is read
+// back as unset, and is written as empty again. Wherever it is used it counts as 0.
 #pragma once
 
 #include <bit>
@@ -38,7 +38,7 @@ class Number {
   double value_ = std::bit_cast<double>(kUnset);
 };
 
-/// A small whole number of a grid: a code, a flag, a count. Its lowest value stands for unset.
+/// A small whole number of a grid: a code, a flag, a count. Its lowest value means unset.
 template <class T>
 class Whole {
  public:

@@ -1,6 +1,6 @@
 // The backdrops of the missions: large pictures ORed onto the void around the play square. Black in
 // them leaves the surface as it is, and colour shows true only on black; so painting one again
-// changes nothing, and tall cells painted afterwards stand before it.
+// changes nothing, and tall cells painted afterwards appear in front of it.
 #include <array>
 #include <span>
 

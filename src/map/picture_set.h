@@ -27,8 +27,8 @@ struct PictureSet {
   int scale() const { return picTile[kWorkingSlot].scale(); }
 };
 
-/// Where the file of a picture stands below the folder of the map pictures, and which of the two
-/// arrays it fills.
+/// Path of a picture's file below the folder of the map pictures, and which of the two arrays it
+/// fills.
 struct PictureFile {
   int number;
   enum class Kind {

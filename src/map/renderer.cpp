@@ -45,8 +45,8 @@ platform::Rect surfacePlace(const CellGeometry& g) {
           height};
 }
 
-// Flat pictures land 32 pixels above their place here: wanted, as this coat matters for tall cells
-// and the void only, and DrawTiles32 paints over the rest.
+// Deliberate: flat pictures land 32 pixels above their place here. This coat matters for tall cells
+// and the void only; DrawTiles32 paints over the rest.
 void DrawTiles(Stage& stage, const CellGeometry& geometry) {
   for (int y = 0; y < geometry.lngBoardSize; ++y) {
     for (int x = 0; x < geometry.lngBoardSize; ++x) {

@@ -11,7 +11,7 @@
 
 namespace map {
 
-/// The map surface as it is drawn on, and where it lies on the screen.
+/// The map surface as it is drawn on, and what it draws from.
 struct Stage {
   core::GameState& game;
   const core::ProgramValues& values;

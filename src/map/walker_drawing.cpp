@@ -17,7 +17,7 @@ using core::kWalkers;
 constexpr int kBlockWidth = 12;
 constexpr int kBlockHeight = 17;
 
-/// Tall cells that can stand before a walker, and where the repaint begins if one of them is tall.
+/// Tall cells that can cover a walker, and where the repaint begins if one of them is tall.
 /// All are counted from the walker's lane: along it from the cell it is in, across it from the
 /// start cell.
 struct Cover {

@@ -49,8 +49,8 @@ enum class Heading : std::uint8_t {
 inline constexpr int kNoParent = -1;
 inline constexpr int kSingle = -1;
 
-/// One row of a screen's control table. Rows stand from the back to the front: a later row lies over
-/// an earlier one of the same parent.
+/// One row of a screen's control table. Rows are ordered from the back to the front: a later row
+/// covers an earlier one of the same parent.
 struct ControlDesign {
   const char* name = nullptr;
   int index = kSingle;  // number within an array of controls, or kSingle

@@ -20,7 +20,7 @@ long long growth(const Rect& a, const Rect& b) {
 void DamageList::add(const Rect& rect) {
   if (rect.empty()) return;
   Rect joined = rect;
-  // A rectangle that grew may now touch others of the list, so the search begins anew.
+  // A rectangle that grew may now touch others of the list, so the search starts again.
   for (int i = 0; i < count_;) {
     const Rect& other = rects_[static_cast<std::size_t>(i)];
     if (intersection(other, joined) == joined) return;

@@ -13,7 +13,7 @@ class DamageList {
  public:
   static constexpr int kCapacity = 48;
 
-  /// Adds a rectangle; an empty one, or one that lies inside another of the list, adds nothing.
+  /// Adds a rectangle; an empty one, or one inside another of the list, adds nothing.
   void add(const Rect& rect);
   void clear() { count_ = 0; }
   bool empty() const { return count_ == 0; }

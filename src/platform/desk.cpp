@@ -8,8 +8,8 @@
 
 namespace platform {
 
-// A handler of the listener may open another screen or hide controls. So a function that tells the
-// listener something does it last, and touches no control of the form afterwards.
+// A handler of the listener may open another screen or hide controls. So a function that
+// notifies the listener does so last, and touches no control of the form afterwards.
 
 void Desk::open(Form* form, FormListener* listener) {
   form_ = form;
@@ -346,7 +346,7 @@ Rect Desk::boxButton(const Rect& place) {
 }
 
 void Desk::showBox(std::string_view title, std::string_view text) {
-  // When too many wait already the last of them gives way: the newest tells most.
+  // When the queue is full the newest box replaces the last one: it matters most.
   if (boxCount_ == static_cast<int>(boxes_.size())) --boxCount_;
   MessageBox& box = boxes_[static_cast<std::size_t>(boxCount_++)];
   box.title.assign(title);

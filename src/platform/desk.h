@@ -2,8 +2,8 @@
 // floats above every screen: message boxes, the open part of a drop-down list, tooltips.
 //
 // A press goes down on the topmost visible control; the control that was pressed gets the click
-// when the button goes up over it. While a message box stands, it alone takes presses and keys.
-// Drop-down lists, file lists, check boxes and text boxes work by themselves and tell the screen
+// when the button goes up over it. While a message box is open, it alone takes presses and keys.
+// Drop-down lists, file lists, check boxes and text boxes work by themselves and notify the screen
 // afterwards.
 #pragma once
 
@@ -17,7 +17,7 @@
 
 namespace platform {
 
-/// What a screen is told. `id` is a row of its table.
+/// The events that a screen receives. `id` is a row of its table.
 class FormListener {
  public:
   virtual ~FormListener() = default;
@@ -26,7 +26,7 @@ class FormListener {
   virtual void onMouseMove(int id, int x, int y) = 0;
   /// The button went down on a control.
   virtual void onMouseDown(int id, int x, int y) = 0;
-  /// A name of a file list was pressed twice, and is selected.
+  /// A name of a file list was double-clicked, and is selected.
   virtual void onDoubleClick(int) {}
   /// Enter or Escape, whether a text box has the focus or not.
   virtual void onKey(Key) {}
@@ -43,7 +43,7 @@ struct MessageBox {
 
 class Desk {
  public:
-  /// Where the OK button of a message box stands, and the box itself, for a given box text.
+  /// Places of a message box and of its OK button, for a given box text.
   static Rect boxPlace(const MessageBox& box, Font& font);
   static Rect boxButton(const Rect& boxPlace);
 
@@ -104,7 +104,7 @@ class Desk {
   Rect openListPlace() const;   // its open part on the screen
   int openListRow() const { return openListRow_; }  // entry under the pointer, or -1
   bool boxButtonDown() const;
-  /// Grows with every `open`: tells a new screen from an old one at the same address.
+  /// Grows with every `open`, so that a new screen at an old one's address is recognised.
   int opened() const { return opened_; }
   /// The tooltip to show now, or none, and what it belongs to on the screen. `now` in milliseconds;
   /// `tooltipDue` says when to look again (-1 for not before the pointer moves).

@@ -20,7 +20,7 @@ class Display {
   virtual int change(Size size) = 0;
   /// Shows the given rectangles of the framebuffer (800 x 600 units).
   virtual void present(const Surface& framebuffer, std::span<const Rect> changed) = 0;
-  /// Shows a message with an OK button where no screen of the program stands yet, and on standard
+  /// Shows a message with an OK button before any screen of the program is open, and on standard
   /// error. Returns when it was read.
   virtual void message(const char* title, const char* text) = 0;
 };

@@ -1,7 +1,7 @@
 // Files, read and written whole.
 //
-// A file is written beside its place, brought to the disk, and moved over it in one step: whatever
-// happens in between, the old file or the new one stands there whole. A link is followed: what it
+// A file is written under a temporary name, synced, and moved over the old one in one step: whatever
+// happens in between, either the old file or the new one is there, complete. A link is followed: what it
 // points to is read, or replaced.
 #pragma once
 

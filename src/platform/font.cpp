@@ -23,7 +23,7 @@ std::size_t number(FontSize size) {
   return static_cast<std::size_t>(size);
 }
 
-/// What stands for a character that the font has not: an empty box of letter height.
+/// The glyph for characters that the font lacks: an empty box of letter height.
 Glyph emptyBox(int height, int scale) {
   Glyph box;
   box.advance = height / 2 + 2;
@@ -72,7 +72,7 @@ bool Font::Implementation::start(const std::string& path, std::string& error) {
     for (char32_t code = kFirstPrepared; code <= kLastPrepared; ++code) {
       prepared[size][code - kFirstPrepared] = render(code, size, scale);
     }
-    // Capitals stand in the middle of the line, so that captions stand in the middle of buttons.
+    // Capitals are centred in the line, so that captions are centred in buttons.
     const int capital = render('H', size, 1).top;
     base[size] = (kLineHeights[size] + capital + 1) / 2;
   }

@@ -21,9 +21,9 @@ enum class Key : std::uint8_t {
   paste,
 };
 
-/// The keys that are held down beside another one, or beside a press.
+/// The keys that are held down together with another key or a press.
 struct Modifiers {
-  bool shift = false;    // takes what lies between into the selection
+  bool shift = false;    // extends the selection
   bool control = false;  // goes by words
 };
 

@@ -35,7 +35,7 @@ struct ListLayout {
 };
 ListLayout listLayout(const Rect& place, const ListContent& list);
 
-/// Where an entry that is in sight lies on the screen, and where in such a row its text does.
+/// Place of a visible entry on the screen, and of the text within such a row.
 Rect listRow(const ListLayout& layout, int entry);
 Rect listTextPlace(const Rect& row);
 

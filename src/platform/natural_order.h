@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// Whether one name stands before another. Names that differ at all have one order.
+/// Whether one name sorts before another: a total order on names that differ.
 bool comesBefore(std::string_view a, std::string_view b);
 
 }  // namespace platform

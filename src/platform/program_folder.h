@@ -1,4 +1,4 @@
-// Where the program lies and where it keeps its files.
+// The program's own folder, and the folder for its files.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 namespace platform {
 
 /// Folder of the running executable, without a slash at its end; empty when the system does not
-/// tell.
+/// provide it.
 std::string executableFolder();
 
 /// The folder that games and progress are kept in, whole and writable: the executable's own where

@@ -40,8 +40,8 @@ void Random::feed(double u) {
   fed_.push_back(u);
 }
 
-// The clock only ever adds an even number, so while it stands still the state walks in odd steps
-// and meets all of its values before it comes round.
+// The clock only ever adds an even number, so while it does not move the state advances in odd
+// steps and takes all of its values before it repeats.
 std::uint64_t Random::next() {
   if (clock_ != nullptr) state_ += 2 * scramble(clock_->ticks());
   state_ += kStep;

@@ -57,7 +57,7 @@ class Surface {
   Color pixel(int x, int y) const;
   /// Writes one pixel; nothing outside the surface.
   void setPixel(int x, int y, Color color);
-  /// Fills the part of a rectangle that lies on the surface.
+  /// Fills the part of a rectangle that is on the surface.
   void fill(const Rect& rect, Color color) { fillPixels(inPixels(rect), color); }
   void fillPixels(const Rect& pixels, Color color);
   void clear(Color color = kBlack) { fill(bounds(), color); }

@@ -40,7 +40,7 @@ int Timers::takeDue() {
     if (taken < 0 || state.due < states_[static_cast<std::size_t>(taken)].due) taken = id;
   }
   if (taken < 0) return -1;
-  // A timer that is a little late keeps its rhythm; one that missed a whole interval starts anew.
+  // A timer that is a little late keeps its rhythm; one that missed a whole interval restarts.
   State& state = states_[static_cast<std::size_t>(taken)];
   state.due += interval(taken);
   if (state.due <= now) state.due = now + interval(taken);

@@ -1,5 +1,5 @@
 // The cursor: a diamond of eight lines over the cells that the tool in hand would cover. It only
-// shows; what a press does is told in play/press.h.
+// shows; play/press.h describes what a press does.
 #pragma once
 
 #include "play/scene.h"
@@ -9,11 +9,11 @@ namespace play {
 /// One tick of the pointer timer: hover, edge scrolling, then the cursor.
 void pointerTick(Scene& scene);
 
-/// The pointer moved over the map, to pixel (x, y) of its surface: finds the cell, and asks the
-/// next tick for red over cells that are taken and green over free ones.
+/// The pointer moved over the map, to pixel (x, y) of its surface: finds the cell, and requests
+/// red over occupied cells and green over free ones for the next tick.
 void moveOverMap(Scene& scene, double x, double y);
 
-/// Recolours the lines as asked; of two requests green wins.
+/// Recolours the lines as requested; of two requests green wins.
 void tintCursor(Scene& scene);
 
 }  // namespace play

@@ -30,7 +30,7 @@ bool demolish(Scene& scene, core::Cell cell) {
   if (code == core::kRoadCode) game.demolishFlag = 1;
   if (core::isFarmCode(code)) game.farmCount -= 1;
   scene.cue(sound::kDemolish);
-  // Walkers are painted out before the building goes, while the pictures around them still stand.
+  // Walkers are painted out before the building goes, while the pictures around them are still there.
   map::removeWalkers(scene.stage);
   clearLayers(game, code);
   // Three cells each way are all of a farm from any of its cells.

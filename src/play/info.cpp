@@ -19,7 +19,7 @@ constexpr AccessLabel kAccessLabels[] = {{core::kMarket, ui::marlbl},
                                          {core::kChurch, ui::chulbl},
                                          {core::kDoctor, ui::doclbl}};
 
-/// How well a residence lies: by the number of effect areas over its cell.
+/// Rating of a residence's site, by the number of effect areas over its cell.
 constexpr const char* kTotals[] = {"Total:Very bad", "Total:Bad",       "Total:Neutral",
                                    "Total:Good",     "Total:Very good", "Total:Perfect"};
 
@@ -48,7 +48,7 @@ void writeHousing(Scene& scene, int x, int y, int image) {
   core::GameState& game = scene.game;
   core::setCaption(scene.text(ui::poplbl), "Max. housing:", std::floor(game.cellCapacity(x, y)));
   if (!core::isHouseImage(image) && !core::isApartmentImage(image)) return;
-  // A house or an apartment tells what the whole building holds; a tent only its pressed cell.
+  // A house or an apartment shows what the whole building holds; a tent only the pressed cell.
   game.buildingHousing = 0;
   for (int j = -2; j <= 2; ++j) {
     for (int i = -2; i <= 2; ++i) {

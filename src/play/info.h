@@ -1,4 +1,4 @@
-// Info mode: a press names what stands on a cell and what its people have. It changes nothing.
+// Info mode: a press shows what is on a cell and which services reach it. It changes nothing.
 #pragma once
 
 #include "core/cell.h"

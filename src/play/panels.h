@@ -5,7 +5,7 @@
 
 namespace play {
 
-/// Tells the goal of the running mode in the notice panel.
+/// Shows the goal of the running mode in the notice panel.
 void showGoal(Scene& scene);
 
 /// A click on one of the six view buttons, 0..5.

@@ -9,7 +9,7 @@ namespace play {
 /// band of cells holds the pixel (in the corners outside the map's diamond) keeps its value.
 void pickCell(core::GameState& game, double x, double y);
 
-/// The lowest and the highest coordinate at which the footprint in hand lies inside the play
+/// The lowest and the highest coordinate at which the footprint in hand is inside the play
 /// square.
 struct AnchorRange {
   double low;

@@ -13,7 +13,7 @@ namespace {
 void closePress(Scene& scene, int tool, core::Cell cell, User user) {
   core::GameState& game = scene.game;
   sim::Rebuild steps{.flood = true};
-  // Deliberate: nobody looks at what was built. A road laid while the residence was the last tool of the
+  // Deliberate: what was built is not checked. A road laid while the residence was the last tool of the
   // palette is served like one.
   if (user == User::player && game.lastPaletteTool == core::kResidenceTool) steps.placed = cell;
   sim::rebuildCity(game, steps);
@@ -65,8 +65,8 @@ void pressMap(Scene& scene, double x, double y) {
     say(scene, "Switch to normal view first");
     return;
   }
-  // Deliberate: what is needed is one piece of gold, not the price: with 1 or more anything may be built, and the
-  // treasury can go below zero by it.
+  // Deliberate: one piece of gold is required, not the price. With 1 or more anything may be built, and
+  // the treasury can go below zero.
   if (game.gold < 1 && game.currentTool != core::kDemolishTool) {
     say(scene, "You don't have enough money");
     return;

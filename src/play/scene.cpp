@@ -12,8 +12,8 @@ void say(Scene& scene, std::string_view message) {
 }
 
 void bannerTick(Scene& scene) {
-  // The count is not begun anew by a second message: it shares the time left of the first. It also
-  // outlives a save and a load.
+  // Deliberate: a second message does not restart the count, and gets only what is left of the first
+  // one's time. The count is also kept through a save and a load.
   scene.game.newsTicks += 1;
   if (!scene.form[ui::haber].visible) scene.form.show(ui::haber);
   if (scene.game.newsTicks >= kBannerTicks) {

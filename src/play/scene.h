@@ -38,7 +38,7 @@ struct Scene {
 void say(Scene& scene, std::string_view message);
 /// One quarter second of the banner.
 void bannerTick(Scene& scene);
-/// Shows the notice panel `bilgi` with what stands in `bilgilabel`.
+/// Shows the notice panel `bilgi` with the text of `bilgilabel`.
 void showNotice(Scene& scene);
 /// Hides the eight lines of the cursor.
 void hideCursor(Scene& scene);

@@ -49,7 +49,7 @@ void raiseProgress(play::Scene& scene, store::ProgressKeeper& keeper) {
   if (!notice.empty()) scene.desk.showBox("Error", notice);
 }
 
-/// Writes the city for the mission just reached. It goes over as it stands at this moment of the month,
+/// Writes the city for the mission just reached. The file holds its state at this point of the tick,
 /// before the tick's money.
 void handCityOver(play::Scene& scene, const std::string& folder) {
   const int mission = scene.values.gMission.whole();

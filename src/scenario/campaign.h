@@ -6,12 +6,12 @@
 
 namespace scenario {
 
-/// Whether everything that mission 1..10 asks for holds now.
+/// Whether all goals of mission 1..10 are met now.
 bool missionGoalMet(const core::City& city, int mission);
 
-/// Judges the running mission where its time has come. A mission won raises "config.dat", hands the city
+/// Judges the running mission if its time has come. A mission won raises "config.dat", hands the city
 /// over in a file, and goes back to the menu within a second; a mission lost goes back as well. A file
-/// that fails is told in a message box.
+/// that fails is reported in a message box.
 void checkMissionEnd(play::Scene& scene, store::ProgressKeeper& progress);
 
 }  // namespace scenario

@@ -1,4 +1,4 @@
-// The king's letters, by which the campaign is told.
+// The king's letters of the campaign.
 #pragma once
 
 #include <string_view>

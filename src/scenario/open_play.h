@@ -7,7 +7,7 @@
 
 namespace scenario {
 
-/// One box of the open play panel: the choice it stands for, what it sets, and how hard it makes it.
+/// One box of the open play panel: the choice it belongs to, the value it sets, and its factor of difficulty.
 enum class Choice { mapSize, fertility, money };
 struct ChoiceBox {
   Choice choice;
@@ -32,7 +32,7 @@ inline constexpr std::array<ChoiceBox, 9> kChoiceBoxes{{
 /// gets who never touched the size.
 void setOpenPlayDefaults(core::ProgramValues& values);
 
-/// Takes over the choice of box n, 0..8, and computes the difficulty anew.
+/// Takes over the choice of box n, 0..8, and recomputes the difficulty.
 void takeChoice(core::ProgramValues& values, int n);
 
 }  // namespace scenario

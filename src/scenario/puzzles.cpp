@@ -46,7 +46,7 @@ double countTents(const core::City& city, core::RecordNumbers& numbers) {
 
 bool residencesPlaced(Scene& scene, const core::Puzzle& level) {
   const double tents = countTents(scene.game, scene.game);
-  // While buildings wait to be lost with their road, the strip stands still and nothing is solved.
+  // While cut-off buildings wait to fall, the strip does not change and no level is solved.
   if (scene.timers.enabled(timer::Timer8)) return false;
   platform::Text& strip = scene.text(ui::Label18);
   strip.assign(level.goalText);

@@ -10,7 +10,7 @@ constexpr const char* kTitle = "Error";
 constexpr const char* kCannotChange =
     "Vellmoran can not change resolution,be sure your system supports 800x600x16 resolution,if it "
     "does,change resolution manually before launching Vellmoran ";
-// The two texts differ by their first blank only; which one shows tells the two failures apart.
+// The two texts differ in one blank only, which distinguishes the two failures.
 constexpr const char* kCannotRestore =
     "Vellmoran can not restore your original screen resolution,please change it manually ";
 constexpr const char* kCannotRestoreOther =

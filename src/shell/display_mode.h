@@ -5,8 +5,8 @@ namespace shell {
 
 class Program;
 
-/// Notes the display's size the first time, and asks for 800 x 600. False when it is refused: the
-/// player has been told, and the program has ended.
+/// Notes the display's size the first time, and requests 800 x 600. False when it is refused: the
+/// player has seen a message, and the program has ended.
 bool enterDisplayMode(Program& program);
 
 /// Gives the display the size back that it had at the start, and ends the program.

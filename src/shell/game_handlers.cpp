@@ -172,7 +172,7 @@ void GameScreen::onMouseMove(int id, int x, int y) {
 }
 
 void GameScreen::onMouseDown(int id, int x, int y) {
-  // While a load is chosen or waits, the blank map is as deaf as it is bare.
+  // While a load is chosen or waits, the blank map takes no presses.
   if (id == ui::picScroll && !stage_.canvas.isBlank()) play::pressMap(scene_, x, y);
 }
 

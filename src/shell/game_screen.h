@@ -1,6 +1,6 @@
 // The game screen `frmMain`: one city, from the opening of the screen to its end.
 //
-// Its handlers are found by table (shell/game_handlers.cpp). What its opening does stands in
+// Its handlers are found by table (shell/game_handlers.cpp). Its opening is in
 // shell/opening.h, the game tick in shell/game_tick.h, saving and loading in shell/saved_games.h, and
 // the ways back to the menu in shell/leaving.h.
 #pragma once
@@ -23,7 +23,7 @@ class GameScreen : public Screen {
   explicit GameScreen(Program& program);
 
   /// Runs the opening. False when the city of the mission before could not be taken over; a message
-  /// box has told so.
+  /// box says so.
   bool load();
 
   const char* name() const override { return "frmMain"; }

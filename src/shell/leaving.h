@@ -5,7 +5,7 @@
 
 namespace shell {
 
-/// Stops the music and opens the menu anew; the game is over.
+/// Stops the music and opens the menu again; the game is over.
 void returnToMenu(GameScreen& screen);
 
 void leaveAfterVictory(GameScreen& screen);  // Timer9

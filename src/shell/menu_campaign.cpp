@@ -119,7 +119,7 @@ void playMission(MenuScreen& menu) {
 void showHomecoming(MenuScreen& menu) {
   core::ProgramValues& values = menu.values();
   values.selectedMission = values.gMission.whole() - 1;
-  // After an earlier mission was played again the main panel stands behind the briefing.
+  // After an earlier mission was played again the main panel is behind the briefing.
   if (values.gReplayedMission == 1) menu.showPanel(ui::main);
   writeBriefing(menu, values.selectedMission + 1, LetterSet::homecoming);
   menu.form().hide(ui::campaign);

@@ -19,7 +19,7 @@ constexpr ControlDesign group(const char* name, int parent, Rect place, const ch
   design.heading = Heading::group;
   return design;
 }
-// The plain box that lies in a panel, around what it holds.
+// The plain box inside a panel, around its contents.
 constexpr ControlDesign plate(const char* name, int parent, int width, int height) {
   return box(name, parent, {4, 4, width - 8, height - 8}, kPlate);
 }
@@ -191,7 +191,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[command7].border = true;
   t[command7].visible = false;
   // A panel like the others, so that it comes to the front when it is shown: after an earlier mission
-  // was played again the main panel still stands behind the briefing.
+  // was played again the main panel is still behind the briefing.
   t[lblloading] = panel("lblloading", 281, 73);
   t[lblloading].text = "Please wait while loading...";
   t[loadingtext] = label("loadingtext", lblloading, {8, 8, 265, 57}, t[lblloading].text,

@@ -16,7 +16,7 @@ inline constexpr const char* kLockImage = "lock";  // beside a mission that is s
 namespace menu_control {
 
 /// Rows of menuControls(). A name with [n] behind it is the first of an array of n rows. Names that
-/// both screens use stand in separate namespaces.
+/// both screens use are kept apart by namespaces.
 enum Id : int {
   // Main panel.
   main,

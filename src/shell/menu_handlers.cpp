@@ -28,7 +28,7 @@ constexpr ClickRow kClicks[] = {
     {ui::openback, cancelOpenPlay},     {ui::opengo, startOpenPlay},
 };
 
-/// Handlers of arrays; they take the place within the array. A mark of a puzzle lies on its row and
+/// Handlers of arrays; they take the index within the array. A puzzle's mark is on its row and
 /// counts as the row.
 struct ClickArray {
   int first;

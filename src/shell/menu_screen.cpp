@@ -45,7 +45,7 @@ double MenuScreen::reachedMission() {
 
 namespace {
 
-/// Reads "config.dat". Where it is missing or damaged the player starts afresh, and is told.
+/// Reads "config.dat". If it is missing or damaged the player starts afresh, with a notice.
 void readProgress(MenuScreen& menu) {
   std::string notice;
   const store::Progress progress = menu.program().progress().read(notice);

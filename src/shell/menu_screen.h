@@ -1,5 +1,5 @@
 // The menu screen `firstmenu`: chooses the mode of play, sets what a game starts from, and opens the
-// game screen. It is built anew at every return from a game.
+// game screen. It is built again at every return from a game.
 #pragma once
 
 #include "shell/menu_controls.h"

@@ -127,7 +127,7 @@ void noticeTick(MenuScreen& menu) {
   menu.form().hide(ui::command7);
 }
 
-// The flags set behind an opening stay after the game screen has used them; every start sets them anew.
+// The flags set behind an opening stay after the game screen has used them; every start sets them again.
 void newGameTick(MenuScreen& menu) {
   menu.program().openGame();
   menu.values().gNewMap = 1;

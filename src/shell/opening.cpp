@@ -20,7 +20,7 @@ namespace ui = play::ui;
 namespace timer = play::timer;
 using play::Scene;
 
-/// Money of the modes that do not ask the money choice.
+/// Money of the modes that do not use the money choice.
 void setGoldOfMode(Scene& scene) {
   const core::Mission* mission = core::missionOf(scene.values.gMission);
   if (mission != nullptr && mission->gold != 0) scene.game.gold = mission->gold;

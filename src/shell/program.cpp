@@ -48,7 +48,7 @@ void Program::openGame() {
   GameScreen& opened = *game;
   const bool cityTakenOver = opened.load();
   open(std::move(game));
-  // A city that could not be taken over has been told in a box; there is nothing to play.
+  // A box has reported a city that could not be taken over; there is nothing to play.
   if (!cityTakenOver) openMenu();
 }
 

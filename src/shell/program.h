@@ -60,7 +60,7 @@ class Program {
   platform::Canvas& canvas() { return canvas_; }
   /// Opens the game screen in place of the menu: everything that its opening does happens in here.
   void openGame();
-  /// Opens the menu anew in place of the game screen.
+  /// Opens a new menu in place of the game screen.
   void openMenu();
   void end(int exitStatus);
   /// Lets events and ticks that wait run, in the middle of a handler. The screen that called may be

@@ -29,13 +29,13 @@ constexpr const char* kEnding = ".sav";
 constexpr const char* kLoadError = "Error loading saved game";
 constexpr const char* kSaveError = "Save Error";
 
-/// Save and load panel stand in the middle of 700 x 700, not of the screen.
+/// Deliberate: the save and load panels are centred in 700 x 700, not in the screen.
 void showFilePanel(Scene& scene, int panel) {
   scene.form.centre(panel, 700, 700);
   scene.form.show(panel);
 }
 
-/// The panel stays, and the name can be mended at once.
+/// The panel stays, and the name can be corrected at once.
 void refuseToSave(Scene& scene, std::string_view why) {
   scene.desk.showBox(kSaveError, why);
   scene.desk.focusOn(ui::txtsavename, platform::Desk::Caret::atEnd);

@@ -14,7 +14,7 @@ void clickCancelLoad(GameScreen& screen);
 /// The second half of a load: takes the checked record over.
 void finishLoad(GameScreen& screen);
 
-/// What a load and a hand-over share once the record's values stand in the game: resets, timers of the
+/// What a load and a hand-over share once the record's values are in the game: resets, timers of the
 /// walkers, ground, roads, buildings, captions, palette.
 void rebuildLoadedCity(GameScreen& screen);
 

@@ -1,5 +1,5 @@
-// What the program works with. The realisations are chosen by whoever starts it: the game takes a real
-// window and real sound, the driver and the tests take virtual ones.
+// What the program works with. Its starter chooses the implementations: the game a real window and
+// real sound, the driver and the tests virtual ones.
 #pragma once
 
 #include <functional>
@@ -77,7 +77,7 @@ struct Services {
   platform::Media& media;
   platform::Display& display;
   Assets& assets;
-  std::string programFolder;  // where games, progress and sounds lie
+  std::string programFolder;  // of games, progress and sounds
   /// Lets events that wait at the window in, in the middle of a handler. May be empty.
   std::function<void()> letEventsIn;
   /// Null where the program shares none with others.

@@ -64,7 +64,7 @@ void collapse(City& city, platform::Random& random) {
     for (int x = 0; x <= kLastCell; ++x) {
       const int code = city.tileCode(x, y);
       if (code == core::kEmptyCode || code == core::kRoadCode || core::isFarmCode(code)) continue;
-      // A layer is cleared for a building that stands as well as for one that falls: the flood that
+      // A layer is cleared for a building that survives as well as for one that falls: the flood that
       // follows refills it, but over long roads only as far as one flood carries.
       const int k = core::serviceOfCode(code);
       if (k != 0 && !cleared[static_cast<std::size_t>(k)]) {

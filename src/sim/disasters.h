@@ -28,7 +28,7 @@ double steal(core::City& city);
 
 /// Whether any building but farms has lost its road.
 bool anyBuildingWithoutRoad(const core::City& city);
-/// Whether the building with its anchor (or the doctor) at (x, y) stands beside a road. False also
+/// Whether the building with its anchor (or the doctor) at (x, y) is beside a road. False also
 /// for a cell that is neither an anchor nor a doctor.
 bool hasRoad(const core::City& city, int x, int y);
 /// Removes every building without road: codes, images and tall flags of its cells; the 7x7 cells

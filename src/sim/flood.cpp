@@ -7,7 +7,7 @@
 
 // The flood is worked out in place, cell by cell, and what a pass sets is seen by the cells scanned after
 // it: within one pass a service runs any distance toward higher x and y, and a single cell toward
-// lower x or y. Services do not know of one another, so the five flags of a cell are walked as five
+// lower x or y. Services do not interact, so the five flags of a cell are walked as five
 // bits.
 namespace sim {
 
@@ -72,8 +72,8 @@ void giveBack(const Bits& before, const Bits& after, core::LayerGrids<core::Flag
 }
 
 // Serves the block that a press has just placed: one covered cell is enough here, wherever the road
-// touches, while the passes ask for the very cell beside the road. Nobody asks what stands on the
-// block: a road laid while the residence was the last tool of the palette runs this too.
+// touches, while the passes require the very cell beside the road. What is on the block is not
+// checked: a road laid while the residence was the last tool of the palette runs this too.
 void servePlacedBlock(City& city, core::Cell anchor) {
   for (int k = 1; k <= kServices; ++k) {
     bool roadCarries = false;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kLastScannedCell = core::kLastCell + 1;
 
-// Anchors stand for their building, the other cells for nothing.
+// The anchor counts for its building, the other cells for nothing.
 int upkeepOfCode(int code) {
   const core::Building* building = core::buildingOfCode(code);
   return building != nullptr && building->code == code ? building->upkeep : 0;

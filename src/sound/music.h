@@ -1,5 +1,5 @@
 // Which theme plays when: one track over and over, or all five in turn, by the count of seconds
-// alone. The device is never asked for the end of a theme; the counts stand for it.
+// alone. The device is never queried for the end of a theme; the counts replace that.
 #pragma once
 
 #include "core/game_state.h"
@@ -17,7 +17,7 @@ bool chooseMusic(core::GameState& game, MusicChoice choice);
 
 /// One second of music time: counts on, and returns the track to start now, or 0.
 int countMusicSecond(core::GameState& game);
-/// Lets the cycle begin anew when it has run its length; comes after the start of a track.
+/// Restarts the cycle when it has run its length; comes after the start of a track.
 void closeMusicCycle(core::GameState& game);
 
 }  // namespace sound

@@ -13,7 +13,7 @@
 
 namespace store {
 
-/// What a record holds: the state, and the five values of the program that stand in it.
+/// What a record holds: the state, and the five values of the program that it contains.
 struct Record {
   core::GameState game;
   core::ProgramValues values;

@@ -51,7 +51,7 @@ constexpr HeadField reserved(int n) {
   return {HeadField::Kind::reserved, n};
 }
 
-// The ratings stand in two orders, and a name that comes twice is written twice and read twice: the
+// The ratings appear in two orders, and a name that comes twice is written twice and read twice: the
 // later copy decides.
 // clang-format off
 inline constexpr HeadField kFields[] = {
@@ -95,7 +95,7 @@ struct NumberRule {
   Rule rule;
 };
 inline constexpr NumberRule kRules[] = {
-    // 11 stands in a game that was saved in the last second of the last mission.
+    // 11 is found in a game that was saved in the last second of the last mission.
     {&V::gMission,      {[](double v) { return isWholeWithin(v, 1, 11) || isWholeWithin(v, 15, 16) ||
                                                isWholeWithin(v, 20, 29); },  "no such mission"}},
     {&V::gMapSize,      {[](double v) { return isWholeWithin(v, 4, 28) &&
@@ -156,7 +156,7 @@ bool walkRecord(Visitor& visit) {
     if (!number(field)) return false;
   }
 
-  // Wanted: the cell block goes column by column and over 36 x 36 cells, the layers of the services
+  // Deliberate: the cell block goes column by column and over 36 x 36 cells, the layers of the services
   // at the end go row by row and over 31 x 31.
   for (int x = 0; x <= 35; ++x) {
     for (int y = 0; y <= 35; ++y) {

@@ -29,8 +29,8 @@ std::size_t countDigits(std::string_view text) {
   return static_cast<std::size_t>(end - text.begin());
 }
 
-// Whether a number of sound form, which has no place among the numbers of the machine, is too large
-// and not too small: the place of its first digit that is not 0 tells.
+// Whether a number of sound form, which is out of the range of a double, is too large and not
+// too small, judged by the position of its first digit that is not 0.
 bool isTooLarge(std::string_view digits, std::string_view decimals, std::string_view exponent) {
   int power = 0;
   const bool negative = exponent.starts_with('-');

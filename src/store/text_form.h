@@ -1,5 +1,5 @@
 // The text form of all files that the game writes: decimal numbers, separated by a comma or by the
-// end of a line, nothing else. A field that holds nothing stands for a value that was never given.
+// end of a line, nothing else. An empty field means an unset value.
 //
 // The reader takes a file as a flat stream of fields: where its lines break does not count, nor does
 // a missing line end or a blank line behind the last field. It

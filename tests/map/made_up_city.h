@@ -64,7 +64,7 @@ class MadeUpCity {
           block.look.images[i], block.look.tall[i]);
     }
   }
-  /// What the surface must show when everything is painted anew.
+  /// What the surface must show when everything is repainted.
   Surface paintedAnew() {
     platform::Canvas fresh(1984, 1056);
     Stage anew{game, values, pictures, fresh};

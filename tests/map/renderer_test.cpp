@@ -71,7 +71,7 @@ TEST(Renderer, BackdropsAreOredOnceAndForAll) {
 
 class Views : public ::testing::Test {
  protected:
-  // Every kind of building, close together, so that tall pictures stand before all sorts of cells.
+  // Every kind of building, close together, so that tall pictures cover all sorts of cells.
   Views() {
     eachPixel(31, 31, [&](int x, int y) { city.put(x, y, 0, (x + y) % 3 == 0 ? 29 : 28, 0); });
     for (int x = 9; x <= 22; ++x) city.put(x, 12, core::kRoadCode, 2, 0);

@@ -140,7 +140,7 @@ TEST(Pictures, ThatAreMissingOrOfAnotherSizeAreNamed) {
   EXPECT_NE(error.find("32 x 64"), std::string::npos) << error;
 }
 
-// Walkers are painted over these corners where no rule repaints what stands in front of them; a
+// Walkers are painted over these corners where no rule repaints what is in front of them; a
 // corner over the building's own anchor needs no care, as the anchor is asked for.
 TEST(Pictures, OfTallCellsLeaveTheirUpperCornersFree) {
   PictureSet set;

@@ -67,7 +67,7 @@ inline constexpr ControlDesign kTestTable[] = {
     {.name = "hiddenButton", .kind = Kind::button, .parent = kHidden, .place = {0, 0, 800, 600}},
 };
 
-/// The screen on a desk, with a record of what the screen was told.
+/// The screen on a desk, with a record of the events that the screen received.
 class Toolkit : public testing::Test, protected FormListener {
  protected:
   Toolkit() {

@@ -1,4 +1,4 @@
-// The control tables of both screens as data: everything lies inside what holds it, nothing hides
+// The control tables of both screens as data: everything is inside its parent, nothing hides
 // what a player presses or reads, and every caption fits its box in the real font.
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ Names reachingOut(Play& play) {
   return names;
 }
 
-/// Pairs of neighbours in one panel that lie on one another, plates aside. A row or a column of pixels
+/// Pairs of siblings in one panel that overlap, plates aside. A row or a column of pixels
 /// may be shared: that is how the tables and the rows of buttons are laid.
 Names overlapping(Play& play) {
   Names names;
@@ -92,7 +92,7 @@ TEST(ControlTables, HoldEveryControlInItsPlace) {
   Play play;
   EXPECT_EQ(reachingOut(play), Names{});
   EXPECT_EQ(misplacedFaces(play), Names{});
-  Names marks;  // the mark of a solved level stands on its row
+  Names marks;  // the mark of a solved level is on its row
   for (int n = 10; n <= 19; ++n) marks.insert("Label20 Picture" + std::to_string(n));
   EXPECT_EQ(overlapping(play), marks);
 

@@ -84,7 +84,7 @@ TEST(OpenPlay, ReckonsTheDifficultyOfAllItsForms) {
     if (!control(play, box).checked) play.run(std::string("click ") + box);
   };
   for (int n = 0; n < 27; ++n) {
-    // Each click changes the figure, so the last of the three is made anew.
+    // Each click changes the figure, so the last of the three is new.
     check(kSizes[n / 9]);
     check(kLands[n / 3 % 3]);
     check(kMoneys[n % 3]);

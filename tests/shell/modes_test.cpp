@@ -26,7 +26,7 @@ const Mode kModes[] = {
 };
 
 /// What a player could tell the first month by: the whole state as a saved game would hold it, and the
-/// picture. The ground of a saved game is left out: it is rolled anew at every load, and rolled twice
+/// picture. The ground of a saved game is left out: it is generated again at every load, and rolled twice
 /// when the menu still remembers a new map from the game before.
 std::string firstMonth(Play& play, const Mode& mode) {
   play.run("pointer 300 590\nseed 7");

@@ -1,4 +1,4 @@
-// What a player sees is the city as it stands: only what changed is painted, and nothing is missed.
+// The screen always shows the current city: only what changed is painted, and nothing is missed.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -32,7 +32,7 @@ TEST(Picture, AfterEveryChangeItIsAsIfPaintedAnew) {
   const auto below = [&chance](int n) {
     return static_cast<int>(chance() % static_cast<unsigned>(n));
   };
-  // Time brings months, fields and the loss of what stands without a road.
+  // Time brings months, fields and the loss of buildings without a road.
   const auto waitSeconds = [&](int seconds) {
     play.run("advance " + std::to_string(1000 * seconds));
   };

@@ -11,7 +11,7 @@
 //                                            the map has been slid to; press takes several of them
 //   open-play, puzzle ROW, save NAME, load NAME    the clicks that lead there
 //
-// The recorded plays of docs/solutions are plain driver scripts; there a remark "#= ok 600" states the
+// The recorded plays of docs/solutions are plain driver scripts; there a comment "#= ok 600" states the
 // answer to the command above it.
 #pragma once
 
@@ -36,7 +36,7 @@ class Play {
   std::string operator()(const std::string& command);
   /// Runs commands, one a line; each must be answered with ok.
   void run(const std::string& commands);
-  /// Starts the program anew in the same folder.
+  /// Restarts the program in the same folder.
   void restart();
   /// The text of a file in the folder; empty when it is missing.
   std::string file(const std::string& name) const;

@@ -1,4 +1,4 @@
-// Every script of tests/scripts is a test of its own, named by what must hold.
+// Every script of tests/scripts is a test of its own, named after the rule it checks.
 #include <gtest/gtest.h>
 
 #include <filesystem>

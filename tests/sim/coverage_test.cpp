@@ -13,8 +13,8 @@ namespace {
 using core::GameState;
 using core::kDoctor;
 
-// The rule of the flood, told plainly: a residence just placed, the doors of the buildings, twelve
-// passes in which every cell is asked every time. Nobody asks what stands where the press was.
+// The rule of the flood in its plain form: a residence just placed, the doors of the buildings, twelve
+// passes in which every cell is visited every time. What is on the pressed cell is not checked.
 void floodPlainly(core::City& g, std::optional<core::Cell> placed) {
   for (int k = 1; k <= 5 && placed; ++k) {
     bool carried = false, covered = false;

@@ -107,7 +107,7 @@ TEST(Earthquake, DrawsForEachStandingCellAndClearsTheLayersOfWhatStands) {
   city.block(core::buildingOfService(core::kMarket).code, 8, 7);
   city.farm(20, 20);
   g.roadService[core::kMarket](4, 6) = g.roadService[core::kDoctor](4, 6) = 1;
-  // The first cell of one residence falls, the last of the other, the market stands.
+  // The first cell of one residence falls, the last of the other, the market survives.
   platform::Random random(nullptr);
   for (const double u : {0.0999, 0.1, 0.5, 0.99, 0.0, 0.1, 0.1, 0.1, 0.1, 0.625}) random.feed(u);
   collapse(g, random);

@@ -32,7 +32,7 @@ inline std::string faultOf(const std::string& text, store::Record& into) {
   return store::parseRecord(text, into, error) ? "" : error;
 }
 
-/// The pieces of a text in which `end` stands behind each piece.
+/// The pieces of a text in which `end` follows each piece.
 inline std::vector<std::string> split(const std::string& text, const std::string& end = "\r\n") {
   std::vector<std::string> pieces;
   for (std::size_t at = 0, next; (next = text.find(end, at)) != std::string::npos;

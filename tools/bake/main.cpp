@@ -29,7 +29,7 @@ void put(Bytes& into, unsigned value, int size) {
   for (int i = 0; i < size; ++i) into.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
 }
 
-/// Names are those that the game asks for, below its data folder.
+/// Names are those that the game opens, below its data folder.
 void putName(Bytes& into, const fs::path& name) {
   const std::string text = "data/" + name.generic_string();
   put(into, static_cast<unsigned>(text.size()), 1);

@@ -18,7 +18,7 @@ using Words = std::vector<std::string_view>;
 struct Call {
   Session& session;
   Words words;            // what follows the command
-  std::string_view rest;  // the same as it stands in the line
+  std::string_view rest;  // the same, as written in the line
 
   platform::Desk& desk() { return session.program().desk(); }
   platform::Form* form() {

@@ -1,4 +1,4 @@
-// What the driver tells of controls, boxes and sounds.
+// The driver's answers about controls, boxes and sounds.
 #pragma once
 
 #include <span>

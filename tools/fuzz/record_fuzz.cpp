@@ -1,7 +1,7 @@
-// Throws damaged saved games at the reader: vellmoran-fuzz SECONDS [SEED]
+// Feeds damaged saved games to the reader: vellmoran-fuzz SECONDS [SEED]
 //
-// Whatever comes, the reader either refuses it with a message that can be shown, or gives a record
-// that lies inside the tables and is the same again once written and read. Run it in a build with
+// The reader must either refuse an input with a message that can be shown, or return a record whose
+// values are inside the tables and that is the same again once written and read. Run it in a build with
 // sanitizers. The same seed gives the same texts; a text that breaks a promise is left in
 // "record_fuzz.failed", and the program ends with 1.
 #include <algorithm>

@@ -1,9 +1,9 @@
 // Plays the whole program at random: vellmoran-monkey EVENTS [SEED]
 //
 // Clicks, moves, keys, waits, in every mode, with loads and saves, also of files that are damaged on
-// the way. After every event it is looked at what must hold (watch.h). The same seed gives the same
-// play. Ends with 1 at the first thing that is wrong: the last commands are told, the whole script and
-// two pictures of what differs are left behind.
+// the way. After every event the invariants are checked (watch.h). The same seed gives the same
+// play. Ends with 1 at the first thing that is wrong: it prints the last commands, and saves the whole
+// script and two pictures of what differs.
 #include <algorithm>
 #include <charconv>
 #include <cstdio>

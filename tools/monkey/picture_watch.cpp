@@ -1,4 +1,4 @@
-// The map surface against one that is drawn anew, and the screen against one that is painted whole.
+// The map surface against a complete redraw, and the screen against a complete repaint.
 #include <algorithm>
 #include <cstring>
 
@@ -21,7 +21,7 @@ Rect boxOf(int x, int y) {
   return {origin.x, origin.y, 64, 64};
 }
 
-/// Where a walker's block stands on the surface.
+/// Place of a walker's block on the surface.
 Rect blockOf(const core::GameState& game, int slot) {
   const map::WalkerDesign& design = map::walkerDesign(game.walkerDir[slot]);
   const Rect start = boxOf(game.walkerX[slot], game.walkerY[slot]);
@@ -133,7 +133,7 @@ void Watch::watchSurface() {
   platform::Point at;
   const std::vector<Rect> except = exceptions(*game());
   const auto excepted = [&](int x, int y) {
-    // The corners of a block can stand out over the end of a road, where nothing paints the ground,
+    // The corners of a block can extend past the end of a road, where nothing paints the ground,
     // and not every tall picture that it touches is painted again before the next redraw.
     const auto pixel = static_cast<std::size_t>(y * surface.width() + x);
     if (!walked_.empty() && walked_[pixel] &&

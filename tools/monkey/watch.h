@@ -27,9 +27,9 @@ class Watch {
   /// After every stretch of time, of `stretch` milliseconds at most, and at the end of an event.
   void step();
   int stretch();
-  /// After an event. `dear`: with what takes long to check.
+  /// After an event. `dear`: with the checks that take long.
   void after(bool dear);
-  /// Compares the pictures with others that are made anew; what differs is left beside the program's
+  /// Compares the pictures with complete redraws; what differs is saved beside the program's
   /// folder.
   void pictures();
 
@@ -50,7 +50,7 @@ class Watch {
   core::GameState* game() { return screen() != nullptr ? screen()->game() : nullptr; }
   core::ProgramValues& values() { return session_->program().values(); }
   bool on(int timer) { return screen()->timers().enabled(timer); }
-  /// No city stands yet: the screen waits for a game to be chosen.
+  /// There is no city yet: the screen waits for a game to be chosen.
   bool waiting() { return values().gLoadPending == 1; }
   bool sound() { return game() != nullptr && !waiting() && !spoilt_; }
   void wrong(const std::string& what) {
@@ -101,10 +101,10 @@ class Watch {
 /// What is wrong with the cells and sums of a city, or nothing. `stale`: residences may show another
 /// stage than they have.
 std::string cityFault(const core::GameState& game, const core::ProgramValues& values, bool stale);
-/// Whether the effect areas are those of the buildings that stand.
+/// Whether the effect areas are those of the buildings on the map.
 bool coverFits(const core::GameState& game);
 
-/// What tells a game that was loaded from the file that it came from, or nothing.
+/// How a loaded game differs from the file that it came from, or nothing.
 std::string loadFault(const std::string& file, const core::GameState& game,
                       const core::ProgramValues& values);
 

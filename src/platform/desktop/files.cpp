@@ -47,7 +47,7 @@ bool readFile(const std::string& path, std::string& into, std::string& error, st
   if (!S_ISREG(status.st_mode)) return refuse("is not an ordinary file");
   if (static_cast<std::size_t>(status.st_size) > limit) return refuse("is too large");
 
-  // A file may grow while it is read, and some have more in them than their size tells.
+  // A file may grow while it is read, and some hold more than their reported size.
   std::string bytes;
   char chunk[1 << 16];
   bytes.reserve(static_cast<std::size_t>(status.st_size));

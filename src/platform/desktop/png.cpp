@@ -18,8 +18,8 @@ struct Rows {
   int stride;
 };
 
-/// Decodes a file. `buffer` is given the head of the picture; it sets the format wanted and answers
-/// with the memory for the pixels.
+/// Decodes a file. `buffer` is given the head of the picture; it sets the required format and
+/// returns the memory for the pixels.
 template <typename Buffer>
 bool decode(const std::string& path, int scale, std::string& error, Buffer buffer) {
   std::FILE* file = std::fopen(path.c_str(), "rb");
@@ -74,7 +74,7 @@ void eachPixel(const std::vector<std::uint8_t>& rgba, Size size, Put put) {
 
 bool readPng(const std::string& path, Surface& into, std::string& error, int scale) {
   // A picture without alpha goes straight into the surface. One with alpha would be blended with a
-  // background on that way, where its colours are wanted as they are.
+  // background on that way, but its colours are needed as they are.
   std::vector<std::uint8_t> rgba;
   Surface read;
   Size size;

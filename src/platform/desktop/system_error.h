@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// The meaning of an error number (`errno`), fit to stand behind a file's name and a colon.
+/// The meaning of an error number (`errno`), phrased to follow a file's name and a colon.
 std::string systemError(int number);
 
 }  // namespace platform

@@ -1,4 +1,4 @@
-// The writer of `files.h`: beside the place, to the disk, over the place.
+// The writer of `files.h`: writes a temporary file, syncs it, and moves it over the target.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -47,7 +47,7 @@ int followLinks(std::string& path) {
   return ELOOP;
 }
 
-// The file that is written beside the place. Its name is short, so that it fits wherever the wanted
+// The temporary file beside the target. Its name is short, so that it fits wherever the target's
 // name fits. A living writer holds a lock on it; one without a lock was left by a program that was
 // killed, and is cleared away.
 class Draft {

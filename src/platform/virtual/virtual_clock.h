@@ -1,4 +1,4 @@
-// A clock that stands still until it is told to go on.
+// A clock that moves only when it is advanced.
 #pragma once
 
 #include "platform/clock.h"
@@ -9,7 +9,7 @@ class VirtualClock : public Clock {
  public:
   std::int64_t milliseconds() override { return now_; }
   std::uint64_t ticks() override { return ++ticks_; }
-  /// Sets the time, which must not lie before the present.
+  /// Sets the time, which must not be before the present.
   void advanceTo(std::int64_t now) { now_ = now; }
 
  private:
