@@ -11,6 +11,9 @@ namespace play {
 
 namespace {
 
+constexpr int kLegend = ui::Frame13;
+constexpr int kGoalStrip = ui::Frame21;
+
 void changeTax(Scene& scene, double rate) {
   core::GameState& game = scene.game;
   game.taxRate = rate;
@@ -38,14 +41,18 @@ void chooseView(Scene& scene, int view) {
   scene.text(ui::currentview).assign(map::viewName(view));
   holdKeys(scene);
   if (view != 0 && !form[ui::statusframe].visible) {
-    form.moveTo(ui::Frame13, 100, 520);
-    form.show(ui::Frame13);
+    showLegend(scene);
   }
-  if (view != 0 && form[ui::Frame21].visible) form.hide(ui::Frame21);
-  if (view == 0 && !form[ui::Frame21].visible && scene.values.gMission >= core::kFirstPuzzle) {
-    form.show(ui::Frame21);
+  if (view != 0 && form[kGoalStrip].visible) form.hide(kGoalStrip);
+  if (view == 0 && !form[kGoalStrip].visible && scene.values.gMission >= core::kFirstPuzzle) {
+    form.show(kGoalStrip);
   }
-  if (view == 0) form.hide(ui::Frame13);
+  if (view == 0) form.hide(kLegend);
+}
+
+void showLegend(Scene& scene) {
+  scene.form.moveTo(kLegend, 100, 520);
+  scene.form.show(kLegend);
 }
 
 void raiseTax(Scene& scene) {

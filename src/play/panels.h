@@ -1,4 +1,4 @@
-// Small doors of the right-hand panel: goals, views, tax rate.
+// What the keys of the side panel show and change: goals, views, tax rate, game menu.
 #pragma once
 
 #include "play/scene.h"
@@ -10,6 +10,9 @@ void showGoal(Scene& scene);
 
 /// A click on one of the six view buttons, 0..5.
 void chooseView(Scene& scene, int view);
+
+/// Shows the legend of the access views at its place.
+void showLegend(Scene& scene);
 
 /// Five points more, or less, of tax, within 0 and 30.
 void raiseTax(Scene& scene);

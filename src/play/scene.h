@@ -3,7 +3,6 @@
 
 #include <string_view>
 
-#include "core/game_controls.h"
 #include "core/game_state.h"
 #include "core/game_timers.h"
 #include "map/renderer.h"
@@ -11,11 +10,12 @@
 #include "platform/form.h"
 #include "platform/media.h"
 #include "platform/timers.h"
+#include "play/game_controls.h"
 #include "sound/cues.h"
 
 namespace play {
 
-namespace ui = core::game_control;
+namespace ui = game_control;
 namespace timer = core::game_timer;
 
 struct Scene {

@@ -1,12 +1,14 @@
 #include "play/status_report.h"
 
 #include "core/number_text.h"
+#include "play/panels.h"
 #include "sim/history.h"
 
 namespace play {
 
 namespace {
 
+constexpr int kLegend = ui::Frame13;
 constexpr int kColumns = 4;
 constexpr int kRows = 14;
 
@@ -56,14 +58,12 @@ void openStatusReport(Scene& scene) {
   sim::rateServices(scene.game, scene.game);
   scene.form.moveTo(ui::statusframe, 75, 85);
   scene.form.show(ui::statusframe);
-  scene.form.hide(ui::Frame13);
+  scene.form.hide(kLegend);
 }
 
 void closeStatusReport(Scene& scene) {
   scene.form.hide(ui::statusframe);
-  if (scene.game.overlayView == 0) return;
-  scene.form.moveTo(ui::Frame13, 100, 520);
-  scene.form.show(ui::Frame13);
+  if (scene.game.overlayView != 0) showLegend(scene);
 }
 
 }  // namespace play

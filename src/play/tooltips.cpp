@@ -1,16 +1,16 @@
 #include "play/tooltips.h"
 
 #include "core/buildings.h"
-#include "core/game_controls.h"
 #include "core/number_text.h"
 #include "map/views.h"
+#include "play/game_controls.h"
 #include "play/preferences.h"
 
 namespace play {
 
 namespace {
 
-namespace ui = core::game_control;
+namespace ui = play::game_control;
 
 struct Row {
   int control;

@@ -14,6 +14,10 @@ namespace {
 using play::Scene;
 namespace ui = play::ui;
 namespace timer = play::timer;
+
+constexpr int kGoalStrip = ui::Frame21;
+constexpr int kGoalText = ui::Label18;
+
 void endLevel(Scene& scene, const char* outcome) {
   endRun(scene, outcome, timer::Timer15);
   scene.values.gReturnPuzzle = 1;
@@ -48,7 +52,7 @@ bool residencesPlaced(Scene& scene, const core::Puzzle& level) {
   const double tents = countTents(scene.game, scene.game);
   // While cut-off buildings wait to fall, the strip does not change and no level is solved.
   if (scene.timers.enabled(timer::Timer8)) return false;
-  platform::Text& strip = scene.text(ui::Label18);
+  platform::Text& strip = scene.text(kGoalText);
   strip.assign(level.goalText);
   strip.append(" (current:");
   strip.append(core::NumberText(tents));
@@ -59,19 +63,19 @@ bool residencesPlaced(Scene& scene, const core::Puzzle& level) {
 }  // namespace
 
 void writePuzzleGoal(Scene& scene) {
-  scene.text(ui::Label18).assign(core::puzzle(scene.values.gMission.whole()).goalText);
+  scene.text(kGoalText).assign(core::puzzle(scene.values.gMission.whole()).goalText);
 }
 
 void puzzleTick(Scene& scene, store::ProgressKeeper& progress) {
   core::GameState& game = scene.game;
   if (scene.values.gMission < core::kFirstPuzzle) {
-    scene.form.hide(ui::Frame21);
+    scene.form.hide(kGoalStrip);
     scene.timers.disable(timer::Timer14);
     return;
   }
   if (game.overlayView == 0) {
-    scene.form.moveTo(ui::Frame21, 100, 560);
-    if (!scene.form[ui::Frame21].visible) scene.form.show(ui::Frame21);
+    scene.form.moveTo(kGoalStrip, 100, 560);
+    if (!scene.form[kGoalStrip].visible) scene.form.show(kGoalStrip);
   }
   const core::Puzzle& level = core::puzzle(scene.values.gMission.whole());
   bool solved = false;

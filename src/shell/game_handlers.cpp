@@ -23,6 +23,12 @@ namespace {
 namespace ui = play::ui;
 namespace timer = play::timer;
 
+constexpr int kMap = ui::picScroll;
+constexpr int kMusicList = ui::Combo1;
+constexpr int kLoadList = ui::File1;
+constexpr int kPreferences = ui::showpref;
+constexpr int kNotice = ui::bilgi;
+
 // --- handlers that are a line or two ---
 
 void openGameMenu(GameScreen& s) {
@@ -30,13 +36,13 @@ void openGameMenu(GameScreen& s) {
   play::showGameMenu(s.scene());
 }
 void closePreferences(GameScreen& s) {
-  s.form().hide(ui::showpref);
+  s.form().hide(kPreferences);
 }
 void closeGameMenu(GameScreen& s) {
   s.form().hide(ui::gamemenu);
 }
 void closeNotice(GameScreen& s) {
-  s.form().hide(ui::bilgi);
+  s.form().hide(kNotice);
 }
 
 void walkTick(GameScreen& s) {
@@ -153,7 +159,7 @@ constexpr std::array<Handler, core::game_timer::kTimers.size()> kTicks{
 
 void chooseMusic(GameScreen& screen, sound::MusicChoice choice) {
   const int entry = static_cast<int>(choice);
-  platform::Control& list = screen.form()[ui::Combo1];
+  platform::Control& list = screen.form()[kMusicList];
   list.list->selected = entry;
   if (sound::chooseMusic(*screen.game(), choice)) {
     screen.timers().enable(timer::Timer100);
@@ -168,12 +174,12 @@ void GameScreen::tick(int id) {
 }
 
 void GameScreen::onMouseMove(int id, int x, int y) {
-  if (id == ui::picScroll) play::moveOverMap(scene_, x, y);
+  if (id == kMap) play::moveOverMap(scene_, x, y);
 }
 
 void GameScreen::onMouseDown(int id, int x, int y) {
   // While a load is chosen or waits, the blank map takes no presses.
-  if (id == ui::picScroll && !stage_.canvas.isBlank()) play::pressMap(scene_, x, y);
+  if (id == kMap && !stage_.canvas.isBlank()) play::pressMap(scene_, x, y);
 }
 
 void GameScreen::onClick(int id) {
@@ -186,7 +192,7 @@ void GameScreen::onClick(int id) {
 }
 
 void GameScreen::onDoubleClick(int id) {
-  if (id == ui::File1) clickLoad(*this);
+  if (id == kLoadList) clickLoad(*this);
 }
 
 void GameScreen::onKey(platform::Key key) {
@@ -200,7 +206,7 @@ void GameScreen::onKey(platform::Key key) {
 }
 
 void GameScreen::onChoose(int id) {
-  if (id != ui::Combo1) return;
+  if (id != kMusicList) return;
   chooseMusic(*this, static_cast<sound::MusicChoice>(form()[id].list->selected));
 }
 

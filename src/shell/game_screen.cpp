@@ -7,7 +7,7 @@
 namespace shell {
 
 GameScreen::GameScreen(Program& program)
-    : Screen(core::gameControls(), nullptr, core::game_timer::kTimers,
+    : Screen(play::gameControls(), nullptr, core::game_timer::kTimers,
              program.services().assets.images, program.services().clock),
       program_(program),
       game_(std::make_unique<core::GameState>()),

@@ -13,6 +13,11 @@ using scenario::LetterSet;
 
 namespace {
 
+constexpr int kRows = ui::Label6;
+constexpr int kBriefing = ui::Framecpgn;
+constexpr int kBriefingTitle = ui::Frame1;
+constexpr int kClosedNotice = ui::command7;
+
 void writeStatus(MenuScreen& menu, int mission) {
   menu.text(ui::statuslbl)
       .assign(menu.reachedMission() > mission ? "Status: COMPLETED" : "Status: NOT COMPLETED");
@@ -23,23 +28,23 @@ bool isClosed(MenuScreen& menu, int row) {
 }
 
 void clearRowBorders(MenuScreen& menu) {
-  for (int k = 0; k < core::kMissions; ++k) menu.form()[ui::Label6 + k].border = false;
+  for (int k = 0; k < core::kMissions; ++k) menu.form()[kRows + k].border = false;
 }
 
 /// Shows the list of missions, a lock beside those that are still closed.
 void showList(MenuScreen& menu) {
   const platform::Surface* lock = menu.program().services().assets.images.find(kLockImage);
   for (int k = 0; k < core::kMissions; ++k) {
-    menu.form()[ui::Label6 + k].image = isClosed(menu, k) ? lock : nullptr;
+    menu.form()[kRows + k].image = isClosed(menu, k) ? lock : nullptr;
   }
   menu.showPanel(ui::campaign);
 }
 
 void writeBriefing(MenuScreen& menu, int mission, LetterSet set) {
   if (mission == core::kCampaignWon) {
-    menu.text(ui::Frame1).assign("CONGRATULATIONS");
+    menu.text(kBriefingTitle).assign("CONGRATULATIONS");
   } else {
-    core::setCaption(menu.text(ui::Frame1), "MISSION ", mission);
+    core::setCaption(menu.text(kBriefingTitle), "MISSION ", mission);
   }
   menu.text(ui::cpgninfo).assign(scenario::letter(mission, set));
   menu.text(ui::goalinfo).assign(scenario::briefingGoal(mission, set));
@@ -56,7 +61,7 @@ void showMissions(MenuScreen& menu) {
 
 void hoverMission(MenuScreen& menu, int row) {
   clearRowBorders(menu);
-  menu.form()[ui::Label6 + row].border = true;
+  menu.form()[kRows + row].border = true;
   const core::Mission& mission = core::mission(row + 1);
   menu.text(ui::difflbl).assign(mission.difficulty);
   menu.text(ui::mapsizelbl).assign(mission.mapSizeText);
@@ -75,27 +80,27 @@ void leaveMissionRows(MenuScreen& menu) {
 void clickMission(MenuScreen& menu, int row) {
   menu.cue(sound::kClick);
   menu.values().selectedMission = row;
-  menu.form().hide(ui::command7);
+  menu.form().hide(kClosedNotice);
   if (isClosed(menu, row)) {
-    menu.form().show(ui::command7);
+    menu.form().show(kClosedNotice);
     menu.timers().enable(timer::Timer1);
     return;
   }
   writeBriefing(menu, row + 1, LetterSet::list);
   menu.form().hide(ui::campaign);
-  menu.showPanel(ui::Framecpgn);
+  menu.showPanel(kBriefing);
 }
 
 void cancelMissions(MenuScreen& menu) {
   menu.cue(sound::kClick);
-  menu.form().hide(ui::command7);
+  menu.form().hide(kClosedNotice);
   menu.form().hide(ui::campaign);
   menu.showPanel(ui::startnew);
 }
 
 void cancelBriefing(MenuScreen& menu) {
   menu.cue(sound::kClick);
-  menu.form().hide(ui::Framecpgn);
+  menu.form().hide(kBriefing);
   showList(menu);
 }
 
@@ -108,7 +113,7 @@ void playMission(MenuScreen& menu) {
   values.gFertility = mission.fertility;
   values.gMission = values.selectedMission + 1;
   values.gYear = mission.startYear;
-  menu.form().hide(ui::Framecpgn);
+  menu.form().hide(kBriefing);
   menu.showPanel(ui::lblloading);
   menu.timers().enable(timer::Timer3);
   values.gContinueMission = 1;
@@ -123,7 +128,7 @@ void showHomecoming(MenuScreen& menu) {
   if (values.gReplayedMission == 1) menu.showPanel(ui::main);
   writeBriefing(menu, values.selectedMission + 1, LetterSet::homecoming);
   menu.form().hide(ui::campaign);
-  menu.showPanel(ui::Framecpgn);
+  menu.showPanel(kBriefing);
   values.gBackToMenu = 0;
 }
 

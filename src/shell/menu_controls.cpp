@@ -1,6 +1,7 @@
 #include "shell/menu_controls.h"
 
-#include "core/control_rows.h"
+#include "core/missions.h"
+#include "play/control_rows.h"
 #include "scenario/puzzles.h"
 
 namespace shell {
@@ -8,7 +9,7 @@ namespace shell {
 namespace {
 
 using namespace menu_control;
-using namespace core::rows;
+using namespace play::rows;
 
 constexpr ControlDesign panel(const char* name, int width, int height) {
   return hidden(bordered(frame(name, kNoParent, {kParked, 100, width, height}, kPanel)));
@@ -79,7 +80,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                  .opaque = true,
                  .border = true};
   t[Frame9] = frame("Frame9", campaign, {32, 64, 305, 329}, kPlate);
-  for (int k = 0; k < 10; ++k) {
+  for (int k = 0; k < core::kMissions; ++k) {
     t[static_cast<std::size_t>(Label6 + k)] =
         label("Label6", Frame9, {32, 8 + 32 * k, 257, 25}, "", FontSize::pt11, Align::left, k);
     t[static_cast<std::size_t>(Label6 + k)].image = kLockImage;
@@ -119,7 +120,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   constexpr const char* kMarks[] = {"Picture10", "Picture11", "Picture12", "Picture13",
                                     "Picture14", "Picture15", "Picture16", "Picture17",
                                     "Picture18", "Picture19"};
-  for (int k = 0; k < 10; ++k) {
+  for (int k = 0; k < core::kPuzzles; ++k) {
     const int left = k < 5 ? 56 : 232;
     const int top = 56 + 32 * (k % 5);
     t[static_cast<std::size_t>(Label20 + k)] =

@@ -15,97 +15,97 @@ inline constexpr const char* kLockImage = "lock";  // beside a mission that is s
 
 namespace menu_control {
 
-/// Rows of menuControls(). A name with [n] behind it is the first of an array of n rows. Names that
+/// Rows of menuControls(), each with its purpose. A name with [n] behind it is the first of an array of n rows. Names that
 /// both screens use are kept apart by namespaces.
 enum Id : int {
   // Main panel.
-  main,
-  mainplate,
-  Frame22,
-  Label39,  // [2]
-  Picture1 = Label39 + 2,
-  mainnew,
-  Picture2,
-  mainload,
-  Picture5,
-  mainhelp,
-  ivir,
-  maincredits,
-  Picture3,
-  mainquit,
+  main,                    // main panel
+  mainplate,               // plate
+  Frame22,                 // title frame
+  Label39,                 // [2] title
+  Picture1 = Label39 + 2,  // plate of NEW GAME
+  mainnew,                 // NEW GAME
+  Picture2,                // plate of LOAD GAME
+  mainload,                // LOAD GAME
+  Picture5,                // plate of DEMO GAME
+  mainhelp,                // DEMO GAME
+  ivir,                    // plate of CREDITS
+  maincredits,             // CREDITS
+  Picture3,                // plate of EXIT GAME
+  mainquit,                // EXIT GAME
   // Ways to play.
-  startnew,
-  startplate,
-  Frame7,
-  Picture6,
-  stcampaign,
-  Picture9,
-  stpuzzle,
-  Picture7,
-  stopen,
-  Label4,
-  Picture8,
-  stback,
+  startnew,    // start panel
+  startplate,  // plate
+  Frame7,      // rows
+  Picture6,    // plate of CAMPAIGN
+  stcampaign,  // CAMPAIGN
+  Picture9,    // plate of PUZZLE PLAY
+  stpuzzle,    // PUZZLE PLAY
+  Picture7,    // plate of OPEN PLAY
+  stopen,      // OPEN PLAY
+  Label4,      // hint
+  Picture8,    // plate of BACK
+  stback,      // BACK TO MAIN
   // List of missions.
-  campaign,
-  campaignplate,
-  Frame6,
-  campaigntitle,
-  Command1,
-  Frame9,
-  Label6,  // [10]
-  mission = Label6 + 10,
-  difflbl,
-  mapsizelbl,
-  fertilelbl,
-  statuslbl,
-  campaignback,
+  campaign,               // list of missions
+  campaignplate,          // plate
+  Frame6,                 // title frame
+  campaigntitle,          // title
+  Command1,               // border of the rows
+  Frame9,                 // ground of the rows
+  Label6,                 // [10] missions
+  mission = Label6 + 10,  // details
+  difflbl,                // difficulty
+  mapsizelbl,             // map size
+  fertilelbl,             // fertility
+  statuslbl,              // completed or not
+  campaignback,           // cancel
   // Briefing.
-  Framecpgn,
-  briefingplate,
-  Frame1,
-  cpgninfo,
-  Frame5,
-  goalinfo,
-  Command11,
-  Command14,
+  Framecpgn,      // briefing
+  briefingplate,  // plate
+  Frame1,         // number of the mission
+  cpgninfo,       // the king's letter
+  Frame5,         // "GOALS"
+  goalinfo,       // goals
+  Command11,      // cancel
+  Command14,      // play
   // List of puzzles.
-  Frame15,
-  puzzleplate,
-  Frame16,
-  Label19,
-  Label21,
-  Frame17,
-  Label22,
-  Label20,                   // [10]
-  Picture10 = Label20 + 10,  // ten marks, Picture10 to Picture19
-  Picture20 = Picture10 + 10,
-  Picture21,
-  Command23,
+  Frame15,                     // list of puzzles
+  puzzleplate,                 // plate
+  Frame16,                     // inner frame
+  Label19,                     // title
+  Label21,                     // advice
+  Frame17,                     // ground of the rows
+  Label22,                     // remark on the order
+  Label20,                     // [10] levels
+  Picture10 = Label20 + 10,    // ten marks, Picture10 to Picture19
+  Picture20 = Picture10 + 10,  // mark of a solved level
+  Picture21,                   // mark of an open level
+  Command23,                   // cancel
   // Open play.
-  openplay,
-  openplate,
-  Frame3,
-  Check3,
-  Check1,
-  Check2,
-  Frame4,
-  Check6,
-  Check5,
-  Check4,
-  Frame12,
-  Check7,
-  Check8,
-  Check9,
-  Frame2,
-  openplaydiff,
-  openback,
-  opengo,
+  openplay,      // open play panel
+  openplate,     // plate
+  Frame3,        // "Map size:"
+  Check3,        // small
+  Check1,        // medium
+  Check2,        // large
+  Frame4,        // "Land fertility:"
+  Check6,        // bad
+  Check5,        // normal
+  Check4,        // good
+  Frame12,       // "Starting money:"
+  Check7,        // low
+  Check8,        // normal
+  Check9,        // high
+  Frame2,        // bottom row
+  openplaydiff,  // difficulty
+  openback,      // cancel
+  opengo,        // play
   // Credits.
-  Frame10,
-  creditsplate,
-  Frame11,
-  creditstitle,
+  Frame10,       // credits
+  creditsplate,  // plate
+  Frame11,       // sheet
+  creditstitle,  // title
   designby,
   designname,
   musicby,
@@ -117,11 +117,11 @@ enum Id : int {
   homepageaddress,
   contact,
   contactaddress,
-  Command18,
+  Command18,  // close
   // Notices.
-  command7,
-  lblloading,
-  loadingtext,
+  command7,     // notice: mission closed
+  lblloading,   // loading notice
+  loadingtext,  // its text
   kCount,
 };
 

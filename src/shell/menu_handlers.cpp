@@ -1,6 +1,7 @@
 // Which handler answers which control and which timer of the menu.
 #include <array>
 
+#include "core/missions.h"
 #include "shell/menu_campaign.h"
 #include "shell/menu_highlight.h"
 #include "shell/menu_puzzles.h"
@@ -36,13 +37,10 @@ struct ClickArray {
   void (*handler)(MenuScreen&, int index);
 };
 constexpr ClickArray kClickArrays[] = {
-    {ui::Label6, 10, clickMission},
-    {ui::Label20, 10, clickPuzzle},
-    {ui::Picture10, 10, clickPuzzle},
+    {ui::Label6, core::kMissions, clickMission},
+    {ui::Label20, core::kPuzzles, clickPuzzle},
+    {ui::Picture10, core::kPuzzles, clickPuzzle},
 };
-
-constexpr int kChecks[] = {ui::Check1, ui::Check2, ui::Check3, ui::Check4, ui::Check5,
-                           ui::Check6, ui::Check7, ui::Check8, ui::Check9};
 
 // In the order of the timer table.
 constexpr std::array<Handler, menu_timer::kTimers.size()> kTicks{
@@ -70,9 +68,7 @@ void MenuScreen::onClick(int id) {
   for (const ClickArray& row : kClickArrays) {
     if (id >= row.first && id < row.first + row.count) return row.handler(*this, id - row.first);
   }
-  for (const int box : kChecks) {
-    if (box == id) return clickChoice(*this, id);
-  }
+  if (form()[id].design->kind == platform::ControlKind::checkBox) clickChoice(*this, id);
 }
 
 }  // namespace shell

@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "core/missions.h"
 #include "shell/menu_campaign.h"
 #include "shell/menu_puzzles.h"
 #include "shell/program.h"
@@ -11,6 +12,11 @@ namespace shell {
 namespace ui = menu_control;
 
 namespace {
+
+constexpr int kStartRows = ui::Frame7;
+constexpr int kHint = ui::Label4;
+constexpr int kMissionRows = ui::Label6;
+constexpr int kPuzzleRows = ui::Label20;
 
 constexpr platform::Color kRowGround{203, 221, 241};
 constexpr platform::Color kLitGround{225, 238, 253};
@@ -86,13 +92,15 @@ void moveOverMenu(MenuScreen& menu, int control) {
       form[other.row].back = other.row == control ? kLitGround : kRowGround;
     }
   }
-  if (control == ui::Frame7 || form[control].design->parent == ui::Frame7) {
-    menu.text(ui::Label4).assign(hintOf(control));
+  if (control == kStartRows || form[control].design->parent == kStartRows) {
+    menu.text(kHint).assign(hintOf(control));
   }
-  if (control >= ui::Label6 && control < ui::Label6 + 10) hoverMission(menu, control - ui::Label6);
+  if (control >= kMissionRows && control < kMissionRows + core::kMissions) {
+    hoverMission(menu, control - kMissionRows);
+  }
   if (control == ui::Frame9 || control == ui::Command1) leaveMissionRows(menu);
-  if (control >= ui::Label20 && control < ui::Label20 + 10) {
-    hoverPuzzle(menu, control - ui::Label20);
+  if (control >= kPuzzleRows && control < kPuzzleRows + core::kPuzzles) {
+    hoverPuzzle(menu, control - kPuzzleRows);
   }
 }
 

@@ -8,13 +8,23 @@ namespace shell {
 
 namespace ui = menu_control;
 
+namespace {
+
+constexpr int kPuzzleList = ui::Frame15;
+constexpr int kRows = ui::Label20;
+constexpr int kMarks = ui::Picture10;
+constexpr int kSolved = ui::Picture20;
+constexpr int kOpen = ui::Picture21;
+
+}  // namespace
+
 void showPuzzles(MenuScreen& menu) {
   platform::Form& form = menu.form();
-  for (int k = 0; k < 10; ++k) {
+  for (int k = 0; k < core::kPuzzles; ++k) {
     const bool done = menu.values().puzzleDone[k + 1] == 1;
-    form[ui::Picture10 + k].image = form[done ? ui::Picture20 : ui::Picture21].image;
+    form[kMarks + k].image = form[done ? kSolved : kOpen].image;
   }
-  menu.showPanel(ui::Frame15);
+  menu.showPanel(kPuzzleList);
 }
 
 void clickPuzzlePlay(MenuScreen& menu) {
@@ -24,10 +34,10 @@ void clickPuzzlePlay(MenuScreen& menu) {
 }
 
 void hoverPuzzle(MenuScreen& menu, int row) {
-  for (int k = 0; k < 10; ++k) {
-    if (k != row) menu.form()[ui::Label20 + k].border = false;
+  for (int k = 0; k < core::kPuzzles; ++k) {
+    if (k != row) menu.form()[kRows + k].border = false;
   }
-  bool& border = menu.form()[ui::Label20 + row].border;
+  bool& border = menu.form()[kRows + row].border;
   if (border) return;
   border = true;
   menu.cue(sound::kClick);
@@ -38,14 +48,14 @@ void clickPuzzle(MenuScreen& menu, int row) {
   menu.cue(sound::kClick);
   values.gMission = core::kFirstPuzzle + row;
   values.gYear = 1715;
-  menu.form().hide(ui::Frame15);
+  menu.form().hide(kPuzzleList);
   values.gMapSize = core::puzzle(values.gMission.whole()).mapSize;
   openNewGame(menu);
 }
 
 void cancelPuzzles(MenuScreen& menu) {
   menu.cue(sound::kClick);
-  menu.form().hide(ui::Frame15);
+  menu.form().hide(kPuzzleList);
   menu.showPanel(ui::startnew);
 }
 

@@ -19,7 +19,7 @@ MenuScreen::MenuScreen(Program& program)
   for (int k = 0; k < core::kMissions; ++k) {
     text(ui::Label6 + k).assign(core::mission(k + 1).row);
   }
-  for (int k = 0; k < 10; ++k) {
+  for (int k = 0; k < core::kPuzzles; ++k) {
     text(ui::Label20 + k).assign(core::puzzle(core::kFirstPuzzle + k).row);
   }
   for (const int box : {ui::Check1, ui::Check5, ui::Check8}) form()[box].checked = true;

@@ -13,6 +13,8 @@ namespace timer = menu_timer;
 
 namespace {
 
+constexpr int kCredits = ui::Frame10;
+
 /// Check boxes by the number in their names.
 constexpr int kBoxes[] = {ui::Check1, ui::Check2, ui::Check3, ui::Check4, ui::Check5,
                           ui::Check6, ui::Check7, ui::Check8, ui::Check9};
@@ -57,12 +59,12 @@ void clickDemonstration(MenuScreen& menu) {
 void clickCredits(MenuScreen& menu) {
   menu.cue(sound::kClick);
   menu.form().hide(ui::main);
-  menu.showPanel(ui::Frame10);
+  menu.showPanel(kCredits);
 }
 
 void closeCredits(MenuScreen& menu) {
   menu.cue(sound::kClick);
-  menu.form().hide(ui::Frame10);
+  menu.form().hide(kCredits);
   menu.showPanel(ui::main);
 }
 

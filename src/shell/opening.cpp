@@ -20,6 +20,9 @@ namespace ui = play::ui;
 namespace timer = play::timer;
 using play::Scene;
 
+constexpr int kSidePanel = ui::Frame6;
+constexpr int kEndOfDemonstration = ui::Frame20;
+
 /// Money of the modes that do not use the money choice.
 void setGoldOfMode(Scene& scene) {
   const core::Mission* mission = core::missionOf(scene.values.gMission);
@@ -28,12 +31,12 @@ void setGoldOfMode(Scene& scene) {
 }
 
 void startDemonstration(Scene& scene) {
-  scene.form.hide(ui::Frame6);
+  scene.form.hide(kSidePanel);
   scene.timers.enable(timer::Timer13);
   scene.game.demoStep = 0;
   scene.game.currentTool = core::kInfoTool;
   play::hideCursor(scene);
-  scene.form.moveTo(ui::Frame20, 623, 0);
+  scene.form.moveTo(kEndOfDemonstration, 623, 0);
 }
 
 void drawNewMap(GameScreen& screen) {
@@ -101,9 +104,7 @@ void startNewGame(GameScreen& screen) {
 void prepareLoadScreen(GameScreen& screen) {
   Scene& scene = screen.scene();
   if (scene.values.gLoadPending != 1) return;
-  for (const int panel : {ui::Frame14, ui::frameload, ui::Frame6, ui::tileinfo, ui::Frame2}) {
-    scene.form.hide(panel);
-  }
+  hidePanelsForLoad(scene);
   play::hideCursor(scene);
   scene.timers.disable(timer::Timer5);
   scene.timers.disable(timer::Timer6);

@@ -25,6 +25,15 @@ namespace ui = play::ui;
 namespace timer = play::timer;
 using play::Scene;
 
+constexpr int kTopBar = ui::Frame14;
+constexpr int kSidePanel = ui::Frame6;
+constexpr int kPreferencesKey = ui::Frame2;
+constexpr int kLegend = ui::Frame13;
+constexpr int kGoalStrip = ui::Frame21;
+constexpr int kLoadingNotice = ui::Frametoload;
+constexpr int kLoadList = ui::File1;
+constexpr int kSaveList = ui::File2;
+
 constexpr const char* kEnding = ".sav";
 constexpr const char* kLoadError = "Error loading saved game";
 constexpr const char* kSaveError = "Save Error";
@@ -63,6 +72,11 @@ void refreshFileList(GameScreen& screen, int list) {
   content.top = 0;
 }
 
+void hidePanelsForLoad(Scene& scene) {
+  constexpr int kPanels[] = {kTopBar, ui::frameload, kSidePanel, ui::tileinfo, kPreferencesKey};
+  for (const int panel : kPanels) scene.form.hide(panel);
+}
+
 void writeDate(Scene& scene) {
   platform::Text& text = scene.text(ui::tarih);
   core::setCaption(text, "Date: ", scene.game.month, " / ");
@@ -85,7 +99,7 @@ void clickSaveGame(GameScreen& screen) {
   Scene& scene = screen.scene();
   scene.cue(sound::kClick);
   scene.form.hide(ui::gamemenu);
-  refreshFileList(screen, ui::File2);
+  refreshFileList(screen, kSaveList);
   showFilePanel(scene, ui::framesave);
   scene.desk.focusOn(ui::txtsavename, platform::Desk::Caret::overAll);
 }
@@ -94,7 +108,7 @@ void clickLoadGame(GameScreen& screen) {
   Scene& scene = screen.scene();
   scene.cue(sound::kClick);
   scene.form.hide(ui::gamemenu);
-  refreshFileList(screen, ui::File1);
+  refreshFileList(screen, kLoadList);
   showFilePanel(scene, ui::frameload);
 }
 
@@ -122,7 +136,7 @@ void clickSave(GameScreen& screen) {
   std::string name;
   if (!typed.empty()) {
     name = std::string(typed.view()) + kEnding;
-  } else if (const std::string* old = selectedName(scene.form[ui::File2])) {
+  } else if (const std::string* old = selectedName(scene.form[kSaveList])) {
     name = *old;
   } else {
     return refuseToSave(scene, "Choose from the list or enter a new one!");
@@ -138,7 +152,7 @@ void clickSave(GameScreen& screen) {
 void clickLoad(GameScreen& screen) {
   Scene& scene = screen.scene();
   scene.cue(sound::kClick);
-  const std::string* name = selectedName(scene.form[ui::File1]);
+  const std::string* name = selectedName(scene.form[kLoadList]);
   if (name == nullptr) {
     scene.desk.showBox(kLoadError, "Please select a game for loading");
     return;
@@ -152,18 +166,16 @@ void clickLoad(GameScreen& screen) {
     return;
   }
   screen.waitingRecord() = std::move(record);
-  if (scene.form[ui::Frame21].visible) {
-    scene.form.hide(ui::Frame21);
+  if (scene.form[kGoalStrip].visible) {
+    scene.form.hide(kGoalStrip);
     scene.timers.disable(timer::Timer14);
   }
   scene.stage.canvas.blank();
   if (scene.values.gLoadPending == 1) startAutoPlay(screen);
   scene.timers.enable(timer::Timer3);
-  for (const int panel : {ui::Frame14, ui::frameload, ui::Frame6, ui::tileinfo, ui::Frame2}) {
-    scene.form.hide(panel);
-  }
-  scene.form.centre(ui::Frametoload);
-  scene.form.show(ui::Frametoload);
+  hidePanelsForLoad(scene);
+  scene.form.centre(kLoadingNotice);
+  scene.form.show(kLoadingNotice);
   play::hideCursor(scene);
   scene.timers.disable(timer::Timer5);
   scene.timers.disable(timer::Timer6);
@@ -183,7 +195,7 @@ void rebuildLoadedCity(GameScreen& screen) {
   map::readmap(game, scene.values, screen.random());
   // A load is always seen in the normal view, which has no legend.
   game.overlayView = 0;
-  scene.form.hide(ui::Frame13);
+  scene.form.hide(kLegend);
   drawFirstCoat(screen);
   map::shapeAllRoads(game);
   map::applyOverlayView(scene.stage);
@@ -193,11 +205,11 @@ void rebuildLoadedCity(GameScreen& screen) {
   play::say(scene, "Game loaded");
   scene.timers.enable(timer::Timer5);
   scene.timers.disable(timer::Timer3);
-  scene.form.show(ui::Frame6);
+  scene.form.show(kSidePanel);
   scene.form.show(ui::tileinfo);
-  scene.form.show(ui::Frame2);
-  scene.form.hide(ui::Frametoload);
-  scene.form.show(ui::Frame14);
+  scene.form.show(kPreferencesKey);
+  scene.form.hide(kLoadingNotice);
+  scene.form.show(kTopBar);
   core::clearWalkers(game);
   play::resetPaletteAfterLoad(scene);
   play::writeSpeed(scene);

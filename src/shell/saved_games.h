@@ -21,6 +21,8 @@ void rebuildLoadedCity(GameScreen& screen);
 /// Lists the saved games in a file list; nothing is selected then.
 void refreshFileList(GameScreen& screen, int list);
 
+/// Hides the panels around the map while a load is chosen or waits.
+void hidePanelsForLoad(play::Scene& scene);
 /// Draws the first coat, and puts the surface back to its resting place.
 void drawFirstCoat(GameScreen& screen);
 /// Writes month and year into the top bar.

@@ -1,7 +1,7 @@
 #include "shell/services.h"
 
-#include "core/game_controls.h"
 #include "platform/png.h"
+#include "play/game_controls.h"
 #include "shell/menu_controls.h"
 
 namespace shell {
@@ -35,7 +35,7 @@ bool ImageSet::loadMenu(const std::string& folder, std::string& error) {
 }
 
 bool ImageSet::loadGame(const std::string& folder, std::string& error) {
-  return load(core::gameControls(), folder, error);
+  return load(play::gameControls(), folder, error);
 }
 
 const platform::Surface* ImageSet::find(std::string_view name) const {

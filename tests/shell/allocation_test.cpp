@@ -13,7 +13,7 @@
 #include <new>
 #include <random>
 
-#include "core/game_controls.h"
+#include "play/game_controls.h"
 #include "shell/script_runner.h"
 
 namespace {
@@ -50,7 +50,7 @@ void* allocate(std::size_t size) {
 
 namespace {
 
-namespace ui = core::game_control;
+namespace ui = play::game_control;
 
 TEST(Play, TenMinutesOfPressesTicksScrollsAndWalkersAllocateNothing) {
   script::Play play;

@@ -1,12 +1,12 @@
 // A game of open play, side 24 and 600 gold, and what a player reads on its screen.
 #pragma once
 
-#include "core/game_controls.h"
+#include "play/game_controls.h"
 #include "shell/script_runner.h"
 
 namespace script {
 
-namespace ui = core::game_control;
+namespace ui = play::game_control;
 
 class OpenGame : public Play {
  public:

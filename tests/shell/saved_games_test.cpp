@@ -3,16 +3,16 @@
 
 #include <filesystem>
 
-#include "core/game_controls.h"
 #include "platform/pixels.h"
 #include "platform/timers.h"
+#include "play/game_controls.h"
 #include "shell/script_runner.h"
 #include "store/record.h"
 
 namespace {
 
 using script::Play;
-namespace ui = core::game_control;
+namespace ui = play::game_control;
 
 platform::Form& form(Play& play) {
   return play.session().program().screen()->form();

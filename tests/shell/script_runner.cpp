@@ -9,9 +9,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/game_controls.h"
 #include "driver/commands.h"
 #include "map/geometry.h"
+#include "play/game_controls.h"
 
 namespace script {
 
@@ -35,7 +35,7 @@ std::string withPixels(driver::Session& session, std::string command) {
     int length = 0;
     if (std::sscanf(command.c_str() + at, "@%d,%d%n", &x, &y, &length) != 2) break;
     const platform::Rect place =
-        session.program().screen()->form().onScreen(core::game_control::picScroll);
+        session.program().screen()->form().onScreen(play::game_control::picScroll);
     const platform::Point centre = map::cellCentre(x, y);
     const std::string pixel =
         std::to_string(centre.x + place.left) + " " + std::to_string(centre.y + place.top);

@@ -4,8 +4,8 @@
 #include <array>
 #include <cstdio>
 
-#include "core/game_controls.h"
 #include "map/geometry.h"
+#include "play/game_controls.h"
 
 namespace monkey {
 
@@ -113,7 +113,7 @@ std::string Hands::cell(driver::Session& session, int astray) {
   lastY_ = std::clamp(lastY_ + chance_.between(-astray, astray), 0, 30);
   platform::Rect place = map::kRestingPlace;
   if (session.program().screen()->canvas() != nullptr) {
-    place = session.program().screen()->form().onScreen(core::game_control::picScroll);
+    place = session.program().screen()->form().onScreen(play::game_control::picScroll);
   }
   const platform::Point centre = map::cellCentre(lastX_, lastY_);
   const int x = centre.x + place.left + chance_.between(-8, 8);
@@ -231,7 +231,7 @@ void Hands::planStreet(driver::Session& session) {
   const bool alongX = chance_.percent(50);
   // It begins at a cell in sight, up on the left or right so that its far end is in sight too.
   const platform::Rect place =
-      session.program().screen()->form().onScreen(core::game_control::picScroll);
+      session.program().screen()->form().onScreen(play::game_control::picScroll);
   const int across = (alongX ? chance_.between(60, 300) : chance_.between(320, 560)) - place.left;
   const int down = chance_.between(100, 300) - place.top;
   const platform::Point cell = map::cellAt(across, down);

@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <cstring>
 
-#include "core/game_controls.h"
 #include "map/geometry.h"
 #include "map/renderer.h"
 #include "map/walker_designs.h"
 #include "monkey/watch.h"
 #include "platform/png.h"
+#include "play/game_controls.h"
 
 namespace monkey {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "core/game_controls.h"
 #include "core/missions.h"
 #include "core/vocabulary.h"
 #include "map/geometry.h"
 #include "platform/files.h"
+#include "play/game_controls.h"
 #include "shell/game_screen.h"
 #include "shell/menu_controls.h"
 #include "store/record.h"
@@ -16,7 +16,7 @@ namespace monkey {
 namespace {
 
 namespace timer = core::game_timer;
-namespace ui = core::game_control;
+namespace ui = play::game_control;
 
 std::string nameOf(const platform::Control& control) {
   const int index = control.design->index;

@@ -9,7 +9,7 @@ from joinery import *
 
 SKY = rgb('8CB3F2')                             # ground of the right-hand panel
 PALE = rgb('CBDDF1')                            # ground of the menu
-# places of keys in the palette, the tools that open with time among them: src/core/game_controls.cpp
+# places of keys in the palette, the tools that open with time among them: src/play/game_controls.cpp
 LATER = [(x, y, 70, 25) for y in (165, 197) for x in (2, 73)]
 
 

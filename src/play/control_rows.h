@@ -6,7 +6,7 @@
 
 #include "platform/control.h"
 
-namespace core::rows {
+namespace play::rows {
 
 using platform::Align;
 using platform::Color;
@@ -89,4 +89,4 @@ constexpr bool complete(std::span<const ControlDesign> table) {
   return true;
 }
 
-}  // namespace core::rows
+}  // namespace play::rows

@@ -1,10 +1,10 @@
-#include "core/game_controls.h"
+#include "play/game_controls.h"
 
 #include <array>
 
-#include "core/control_rows.h"
+#include "play/control_rows.h"
 
-namespace core {
+namespace play {
 
 namespace {
 
@@ -320,4 +320,4 @@ std::span<const ControlDesign> gameControls() {
   return kTable;
 }
 
-}  // namespace core
+}  // namespace play
