@@ -26,7 +26,8 @@ TEST(GameFolder, HoldsTheTextsThatTheGameSpeaksOfAndKeepsWhatThePlayerHas) {
 
   // Links, and files that are named in the text.
   const std::regex named(R"(\]\(([^)]+)\)|`(docs/[\w.]+)`)");
-  for (const std::string text : {"README.md", "docs/solutions.md", "docs/rules.md"}) {
+  for (const std::string text :
+       {"README.md", "docs/solutions.md", "docs/rules.md", "docs/manual/manual.md"}) {
     const std::string bytes = support::bytesOf(game / text);
     EXPECT_NE(bytes, "(missing)") << text;
     for (std::sregex_iterator at(bytes.begin(), bytes.end(), named), end; at != end; ++at) {
