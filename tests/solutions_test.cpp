@@ -1,5 +1,5 @@
 // Every level can be won by play alone: each recorded play in docs/solutions starts at the menu,
-// presses and clicks, and says at its end how it must have come out.
+// presses and clicks, and states at its end how it must have come out.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -27,7 +27,7 @@ std::string textOf(const std::string& name) {
 
 class Solution : public testing::TestWithParam<std::string> {};
 
-TEST_P(Solution, ComesOutAsItSays) {
+TEST_P(Solution, EndsAsRecorded) {
   script::playFile(kFolder + GetParam() + ".txt");
 }
 

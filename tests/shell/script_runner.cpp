@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <string_view>
 #include <vector>
@@ -27,6 +29,63 @@ std::shared_ptr<shell::Assets> sharedAssets() {
   return assets;
 }
 
+/// The keys of the palette, in their order.
+constexpr std::string_view kTools[] = {"residence", "market",   "school", "tavern", "church",
+                                       "doctor",    "demolish", "road",   "farm"};
+
+/// Steps that many tests contain; $ is what follows the word.
+const std::map<std::string, std::string> kScenes{
+    {"open-play", "click mainnew, stopen, opengo; advance 500"},
+    {"puzzle", "click mainnew, stpuzzle, Label20($); advance 500"},
+    {"mission", "click mainnew, stcampaign, Label6($), Command14; advance 500"},
+    {"menu", "click gmmenu, Command19"},
+    {"save", "click gmmenu, savegame, txtsavename; key Ctrl+A; type $; click cmdsave"},
+    {"load", "click gmmenu, ldgame; choose File1 $.sav; click cmdload; advance 500"},
+    {"load-from-menu",
+     "click mainload; advance 500; choose File1 $.sav; click cmdload; advance 500"},
+    {"next-month", "set tickOfMonth=40; advance 1000"},
+    // Every tool unlocked; a market and a residence at a road, 500 gold, saved as "town".
+    {"saved-town",
+     "open-play; set population=1000; advance 1000; click Command21; press @15,15 @15,16 @15,17; "
+     "market @16,15; residence @13,15; set gold=500; save town"},
+};
+
+/// Cuts a text at a separator; a blank within quotation marks is none.
+std::vector<std::string> cut(const std::string& text, std::string_view separator) {
+  if (text.empty()) return {};
+  std::vector<std::string> parts(1);
+  bool quoted = false;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (!quoted && std::string_view(text).substr(at).starts_with(separator)) {
+      parts.emplace_back();
+      at += separator.size() - 1;
+      continue;
+    }
+    if (separator == " " && text[at] == '"' && !parts.back().ends_with('\\')) quoted = !quoted;
+    parts.back() += text[at];
+  }
+  return parts;
+}
+
+/// As the driver takes it: "tileCode(15,16)=7" is "tileCode 15 16 7".
+std::string plain(std::string text) {
+  for (char& c : text) {
+    if (c == '(' || c == ',' || c == '=') c = ' ';
+  }
+  std::erase(text, ')');
+  return text;
+}
+
+/// Whether the object in an answer has the field, given as NAME=VALUE.
+bool hasField(const std::string& answer, const std::string& field) {
+  const std::size_t equals = field.find('=');
+  const std::string wanted = "\"" + field.substr(0, equals) + "\":" + field.substr(equals + 1);
+  const std::size_t at = answer.find(wanted);
+  if (at == std::string::npos) return false;
+  const char next = answer[at + wanted.size()];
+  return next == ',' || next == '}';
+}
+
 /// Puts pixels in the place of cells: "press @15,15" becomes "press 400 300".
 std::string withPixels(driver::Session& session, std::string command) {
   for (std::size_t at = command.find('@'); at != std::string::npos; at = command.find('@')) {
@@ -46,7 +105,7 @@ std::string withPixels(driver::Session& session, std::string command) {
 
 }  // namespace
 
-Play::Play() : before_(std::filesystem::current_path()) {
+Play::Play() : scenes_(kScenes), before_(std::filesystem::current_path()) {
   char name[] = "/tmp/vellmoran-play-XXXXXX";
   folder_ = mkdtemp(name);
   restart();
@@ -73,12 +132,75 @@ std::string Play::operator()(const std::string& command) {
   return driver::run(*session_, withPixels(*session_, command));
 }
 
-void Play::run(const std::string& commands) {
-  std::istringstream lines(commands);
+void Play::run(const std::string& script) {
+  std::istringstream lines(script);
   for (std::string line; std::getline(lines, line);) {
     if (!driver::isCommand(line)) continue;
-    const std::string answer = (*this)(line);
-    EXPECT_TRUE(answer.starts_with("ok")) << line << ": " << answer;
+    if (line.starts_with("let ")) {
+      const std::size_t equals = line.find(" = ");
+      scenes_[line.substr(4, equals - 4)] = line.substr(equals + 3);
+      continue;
+    }
+    for (const std::string& step : cut(line, "; ")) take(step);
+  }
+}
+
+void Play::command(const std::string& command) {
+  answer_ = (*this)(command);
+  EXPECT_TRUE(answer_.starts_with("ok")) << command << "\n  " << answer_;
+}
+
+void Play::expect(const std::string& command, const std::string& expected) {
+  answer_ = (*this)(command);
+  if (expected.starts_with('~')) {
+    EXPECT_NE(answer_.find(expected.substr(1)), std::string::npos) << command << "\n  " << answer_;
+  } else if (answer_.starts_with("ok {")) {
+    for (const std::string& field : cut(expected, " ")) {
+      EXPECT_TRUE(hasField(answer_, field)) << command << "\n  " << answer_ << " has no " << field;
+    }
+  } else {
+    const bool same = answer_ == "ok " + expected || answer_.starts_with("ok " + expected + " ");
+    EXPECT_TRUE(same) << command << "\n  " << answer_ << " is not " << expected;
+  }
+}
+
+void Play::take(const std::string& step) {
+  const std::size_t blank = std::min(step.find(' '), step.size());
+  const std::size_t arrow = step.find(" => ");
+  const std::string word = step.substr(0, blank);
+  const std::string rest = step.substr(std::min(blank + 1, step.size()));
+  const std::size_t tool = static_cast<std::size_t>(std::ranges::find(kTools, word) - kTools);
+  if (const auto scene = scenes_.find(word); scene != scenes_.end()) {
+    std::string steps = scene->second;
+    for (std::size_t at = 0; (at = steps.find('$', at)) != std::string::npos; at += rest.size()) {
+      steps.replace(at, 1, rest);
+    }
+    run(steps);
+  } else if (tool < std::size(kTools)) {
+    command("click Command1 " + std::to_string(tool));
+    for (const std::string& cell : cut(rest, " ")) command("press " + cell);
+  } else if (step.starts_with("press @")) {
+    for (const std::string& cell : cut(rest, " ")) command("press " + cell);
+  } else if (word == "click" || word == "hover" || word == "key") {
+    for (const std::string& name : cut(rest, ", ")) command(word + " " + plain(name));
+  } else if (word == "set" && rest.find('=') != std::string::npos) {
+    for (const std::string& field : cut(rest, " ")) command("set " + plain(field));
+  } else if (word == "shown" || word == "hidden") {
+    for (const std::string& name : cut(rest, " ")) {
+      expect("control " + plain(name), word == "shown" ? "shown=true" : "shown=false");
+    }
+  } else if (word.ends_with(':')) {
+    expect("control " + plain(word.substr(0, word.size() - 1)), rest);
+  } else if (word.find('=') != std::string::npos) {
+    for (const std::string& field : cut(step, " ")) {
+      const std::size_t equals = field.find('=');
+      expect((field.starts_with("Timer") ? "timer " : "get ") + plain(field.substr(0, equals)),
+             field.substr(equals + 1));
+    }
+  } else if (arrow != std::string::npos) {
+    expect(step.substr(0, arrow), step.substr(arrow + 4));
+  } else {
+    command(step);
   }
 }
 
@@ -91,130 +213,27 @@ void Play::write(const std::string& name, const std::string& text) const {
   std::ofstream(folder_ + "/" + name, std::ios::binary) << text;
 }
 
-namespace {
-
-/// Scenes that many scripts contain; $ is what follows the word.
-struct Scene {
-  std::string_view word;
-  std::vector<std::string> commands;
-};
-const std::vector<Scene>& scenes() {
-  static const std::vector<Scene> table{
-      {"open-play", {"click mainnew", "click stopen", "click opengo", "advance 500"}},
-      {"puzzle", {"click mainnew", "click stpuzzle", "click Label20 $", "advance 500"}},
-      {"save", {"click gmmenu", "click savegame", "click txtsavename", "type $", "click cmdsave"}},
-      {"load",
-       {"click gmmenu", "click ldgame", "choose File1 $.sav", "click cmdload", "advance 500"}},
-  };
-  return table;
-}
-
-/// The driver's commands for one line of a script.
-std::vector<std::string> commandsOf(const std::string& line) {
-  const std::size_t blank = std::min(line.find(' '), line.size());
-  const std::string rest = line.substr(std::min(blank + 1, line.size()));
-  std::vector<std::string> commands;
-  for (const Scene& scene : scenes()) {
-    if (line.compare(0, blank, scene.word) != 0) continue;
-    for (std::string command : scene.commands) {
-      if (command.find('$') != std::string::npos) command.replace(command.find('$'), 1, rest);
-      commands.push_back(command);
-    }
-    return commands;
-  }
-  if (line.starts_with("press @")) {
-    std::istringstream cells(rest);
-    for (std::string cell; cells >> cell;) commands.push_back("press " + cell);
-    return commands;
-  }
-  return {line};
-}
-
-/// Whether the object in an answer has the field, given as NAME=VALUE.
-bool hasField(const std::string& answer, const std::string& field) {
-  const std::size_t equals = field.find('=');
-  const std::string wanted = "\"" + field.substr(0, equals) + "\":" + field.substr(equals + 1);
-  const std::size_t at = answer.find(wanted);
-  if (at == std::string::npos) return false;
-  const char next = answer[at + wanted.size()];
-  return next == ',' || next == '}';
-}
-
-/// Cuts fields at blanks outside quotation marks.
-std::vector<std::string> fieldsOf(const std::string& text) {
-  std::vector<std::string> fields(1);
-  bool quoted = false;
-  for (const char c : text) {
-    if (c == '"' && !fields.back().ends_with('\\')) quoted = !quoted;
-    if (c == ' ' && !quoted) {
-      fields.emplace_back();
-    } else {
-      fields.back() += c;
-    }
-  }
-  return fields;
-}
-
-void expectAnswer(const std::string& answer, const std::string& expected,
-                  const std::string& where) {
-  if (expected.starts_with('~')) {
-    EXPECT_NE(answer.find(expected.substr(1)), std::string::npos) << where << "\n  " << answer;
-  } else if (answer.starts_with("ok {")) {
-    for (const std::string& field : fieldsOf(expected)) {
-      EXPECT_TRUE(hasField(answer, field)) << where << "\n  " << answer << "\n  has no " << field;
-    }
-  } else {
-    const bool same = answer == expected || answer == "ok " + expected ||
-                      answer.starts_with("ok " + expected + " ");
-    EXPECT_TRUE(same) << where << "\n  " << answer << "\n  is not " << expected;
-  }
-}
-
-/// Checks a line "#file NAME TEXT".
-void expectFile(const Play& play, const std::string& line, const std::string& where) {
-  std::istringstream words(line);
-  std::string word, name, begin;
-  words >> word >> name;
-  std::getline(words >> std::ws, begin);
-  const std::string text = play.file(name);
-  EXPECT_TRUE(text.starts_with(begin)) << where << "\n  " << text;
-}
-
-}  // namespace
-
 void playFile(const std::string& path) {
-  std::vector<std::string> lines;
   std::ifstream in(path);
+  std::vector<std::string> lines;
   for (std::string line; std::getline(in, line);) lines.push_back(line);
 
   Play play;
-  bool wrote = false;
+  int number = 0;
   for (const std::string& line : lines) {
-    if (!line.starts_with("#write ")) continue;
+    SCOPED_TRACE(path + ":" + std::to_string(++number));
     const std::size_t end = line.find(' ', 7);
-    play.write(line.substr(7, end - 7), line.substr(end + 1) + "\r\n");
-    wrote = true;
-  }
-  if (wrote) play.restart();
-
-  std::string answer;
-  for (std::size_t n = 0; n < lines.size(); ++n) {
-    const std::string& line = lines[n];
-    const std::string where = path + ":" + std::to_string(n + 1) + ": " + line;
-    if (line.starts_with("#= ")) {
-      EXPECT_EQ(answer, line.substr(3)) << where;
+    if (line.starts_with("#write ")) {
+      play.write(line.substr(7, end - 7), line.substr(end + 1) + "\r\n");
+      play.restart();
     } else if (line.starts_with("#file ")) {
-      expectFile(play, line, where);
-    } else if (line.size() > 1 && line[0] == '#' && line[1] != ' ') {
-      EXPECT_TRUE(line.starts_with("#write ")) << where << "\n  is no remark that is checked";
-    } else if (driver::isCommand(line)) {
-      const std::size_t arrow = line.find(" => ");
-      for (const std::string& command : commandsOf(line.substr(0, arrow))) answer = play(command);
-      if (arrow != std::string::npos) {
-        expectAnswer(answer, line.substr(arrow + 4), where);
-      } else {
-        EXPECT_TRUE(answer.starts_with("ok")) << where << "\n  " << answer;
-      }
+      const std::string text = play.file(line.substr(6, line.find(' ', 6) - 6));
+      EXPECT_TRUE(text.starts_with(line.substr(line.find(' ', 6) + 1))) << line << "\n  " << text;
+    } else if (line.starts_with("#= ")) {
+      EXPECT_EQ(play.lastAnswer(), line.substr(3));
+    } else {
+      EXPECT_FALSE(line.size() > 1 && line[0] == '#' && line[1] != ' ') << line << " is no check";
+      play.run(line);
     }
   }
 }

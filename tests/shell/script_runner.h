@@ -1,20 +1,30 @@
-// Plays driver scripts as tests. A script is what the driver itself takes, one command a line; each
-// must be answered with ok. Added to that:
+// Plays scripts as tests. A script is made of the driver's commands, one a line or several with "; "
+// between them; each must be answered with ok. These words stand for several commands or for a check:
 //
-//   get gold => 600                          the answer must be 600, or begin with this word
-//   control bilgi => shown=true left=200     the object must have these fields
-//   box => ~is not a number                  the answer must contain this text
+//   click gmmenu, savegame                   several clicks; key and hover as well
+//   press @15,15 @16,15                      presses in the middle of these cells, wherever the map
+//                                            has been slid to; pointer takes a cell, too
+//   residence @13,15 @13,17                  picks the tool in the palette and presses; just picks it
+//                                            when no cell follows
+//   set gold=500 walkerX(3)=15               several values
+//   gold=600 tileCode(15,16)=7 Timer8=off    values and timers that must be so
+//   Label4: text="INFO MODE" left=200        fields that the control must have
+//   shown Frame14 Command1(3)                controls that must be seen; hidden: that must not
+//   box => ~is not a number                  the answer must contain this text; without ~ it is, or
+//                                            begins with, the text, or has its fields
 //   #file NAME TEXT                          a file in the program's folder must begin like this
-//   #write NAME TEXT                         puts a file into the folder before the program starts
+//   #write NAME TEXT                         puts a file into the folder and starts the program again
+//   let NAME = STEPS                         makes NAME a word for these steps, in which $ is what
+//                                            follows the word
 //
-//   @x,y                                     the screen pixel in the middle of cell (x, y), wherever
-//                                            the map has been slid to; press takes several of them
-//   open-play, puzzle ROW, save NAME, load NAME    the clicks that lead there
+// and the scenes open-play, puzzle ROW, mission ROW, menu, save NAME, load NAME, load-from-menu NAME,
+// next-month and saved-town, which script_runner.cpp lists.
 //
 // The recorded plays of docs/solutions are plain driver scripts; there a comment "#= ok 600" states the
 // answer to the command above it.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -34,8 +44,10 @@ class Play {
   const std::string& folder() const { return folder_; }
   /// Runs one command and gives its answer.
   std::string operator()(const std::string& command);
-  /// Runs commands, one a line; each must be answered with ok.
-  void run(const std::string& commands);
+  /// Runs a script.
+  void run(const std::string& script);
+  /// The answer to the last command that was run.
+  const std::string& lastAnswer() const { return answer_; }
   /// Restarts the program in the same folder.
   void restart();
   /// The text of a file in the folder; empty when it is missing.
@@ -43,12 +55,18 @@ class Play {
   void write(const std::string& name, const std::string& text) const;
 
  private:
+  void take(const std::string& step);
+  void command(const std::string& command);
+  void expect(const std::string& command, const std::string& expected);
+
+  std::map<std::string, std::string> scenes_;
+  std::string answer_;
   std::string folder_;
   std::string before_;
   std::unique_ptr<driver::Session> session_;
 };
 
-/// Plays a script file; every answer that differs is a failure of the running test.
+/// Plays a script file; every answer that differs fails the running test.
 void playFile(const std::string& path);
 
 }  // namespace script

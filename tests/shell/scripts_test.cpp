@@ -19,7 +19,7 @@ std::vector<std::string> scripts() {
 
 class Script : public testing::TestWithParam<std::string> {};
 
-TEST_P(Script, GivesTheAnswersItMust) {
+TEST_P(Script, Passes) {
   script::playFile(VELLMORAN_SOURCE_DIR "/tests/scripts/" + GetParam() + ".txt");
 }
 
