@@ -164,9 +164,14 @@ def colours(s):
         p = pair(n, s)
         if tuple(p[16 * s, 32 * s, :3]) != colour:
             yield 'pair %d has not the colour of the legend' % n
-        seen = {tuple(c) for c in p[DIAMOND[s]][:, :3]}
-        if seen != {colour, views.OUTLINE}:
-            yield 'pair %d has other colours: %s' % (n, seen)
+        inside = DIAMOND[s] & ~views.outlined(s)
+        plain = (p[..., :3] == colour).all(-1) & inside
+        if plain.sum() < .75 * inside.sum():
+            yield 'pair %d leaves too little to its colour' % n
+        shades = p[inside & ~plain][:, :3].astype(int)
+        lo, hi = np.minimum(colour, views.MARK[n]), np.maximum(colour, views.MARK[n])
+        if (shades < lo).any() or (shades > hi).any():
+            yield 'pair %d has colours beside those of its mark' % n
         if tuple(p[0, 32 * s - 1, :3]) != views.OUTLINE or tuple(p[16 * s - 1, 1, :3]) != views.OUTLINE:
             yield 'pair %d has no outline' % n
     if pair(20, s)[DIAMOND[s]][:, :3].any():
@@ -187,9 +192,10 @@ def marks(s):
     that do not tell red from green."""
     shape = {}
     for n, colour in views.LEGEND.items():
-        grey = (pair(n, s)[..., :3] == views.OUTLINE).all(-1)
-        shape[n] = grey & ~views.outlined(s)
-        seen = lab(to_lin(np.array([colour, views.OUTLINE]) / 255.) @ DEUTAN.T)
+        away = np.abs(pair(n, s)[..., :3].astype(int) - colour).sum(-1)
+        whole = np.abs(np.subtract(colour, views.MARK[n])).sum()
+        shape[n] = DIAMOND[s] & ~views.outlined(s) & (away * 2 > whole)
+        seen = lab(to_lin(np.array([colour, views.MARK[n]]) / 255.) @ DEUTAN.T)
         if np.linalg.norm(seen[0] - seen[1]) < 14:
             yield 'the mark of pair %d is faint: %.1f' % (n, np.linalg.norm(seen[0] - seen[1]))
     for a, b in ((16, 17), (16, 58), (17, 58)):

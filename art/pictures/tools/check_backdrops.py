@@ -1,5 +1,5 @@
 """Check the large pictures and the panels in data/pictures: sizes and format, black
-where the map shows, agreement where pictures overlap, contrast under captions.
+where the map shows, agreement where pictures overlap, contrast under captions, the icon.
 
 Exit status 1 if anything fails."""
 import struct
@@ -10,7 +10,12 @@ PANELS = {'Image3': (623, 37), 'Image2': (141, 157), 'Image7': (145, 34), 'Image
           'Image5': (145, 34), 'Image4': (145, 34), 'Image6': (145, 258), 'Image8': (178, 37), 'menu': (800, 600), 'Picture20': (12, 10), 'Picture21': (7, 7),
           'swatchblue': (26, 14), 'swatchred': (26, 14), 'swatchgrey': (26, 14)}
 PANELS.update((n, (155, 33)) for n in ('Picture1', 'Picture2', 'Picture3', 'Picture5', 'Picture6', 'Picture7', 'Picture8', 'Picture9', 'ivir'))
-NO_CAPTION = ('menu', 'Image10', 'Picture20', 'Picture21', 'swatchblue', 'swatchred', 'swatchgrey')
+# where captions lie on plates and on keys, left, top, width, height; beside them are rivets and rims
+CAPTIONS = {'Image3': [(16, 8, 140, 20), (176, 8, 134, 20), (328, 8, 126, 20), (472, 8, 140, 20)], 'Image11': [(10, 7, 125, 41)],
+            'Image6': [(10, 32, 125, 58)], 'Image2': [(16, 6, 108, 142)], 'Image8': [(12, 7, 154, 23)],
+            'sheet': [(4, 4, 100, 68)], 'key': [(5, 5, 38, 16)], 'keyheld': [(5, 5, 38, 16)]}
+YELLOW = {'keylit': [(5, 5, 38, 16)], 'keydown': [(5, 5, 38, 16)]}
+ICONS = (16, 32, 48, 64, 128, 256, 512)
 SIZES = {'mask/48': BAND[2:], 'tile/48': COAST[2:], 'tile/62': CASTLE[2:], 'mask/53': WATER, 'tile/53': WATER, 'mask/22': WATER}
 failed = []
 
@@ -43,9 +48,11 @@ def luminance(a):
     return (to_lin(a / 255.) * [.2126, .7152, .0722]).sum(-1)
 
 
-def contrast(a):
-    """Worst contrast of black on this picture."""
-    return (luminance(a).min() + .05) / .05
+def contrast(name, places, ink, s):
+    """Worst contrast of text of this colour at these places of a panel's picture."""
+    a, text = luminance(load_rgb('panel/' + name, s)), luminance(np.array(ink))
+    worst = [np.array([p.min(), p.max()]) for p in (box(a, *place, s) for place in places)]
+    return min(((np.maximum(w, text) + .05) / (np.minimum(w, text) + .05)).min() for w in worst)
 
 
 def pictures(s):
@@ -79,10 +86,10 @@ def pictures(s):
         check(bare == 0, '%s: %d black pixels between the backdrop and the back edges' % (what, bare))
         alone = int(strays(surface).sum())
         check(alone == 0, '%s: %d stray pixels' % (what, alone))
-    for n in PANELS:
-        if n not in NO_CAPTION:
-            c = contrast(load_rgb('panel/' + n, s))
-            check(c >= 7, '%dx, panel/%s: black text at %.2f to 1 at the worst pixel' % (s, n, c))
+    for ink, plates in (((0, 0, 0), CAPTIONS), ((255, 255, 0), YELLOW)):
+        for n, places in plates.items():
+            c = contrast(n, places, ink, s)
+            check(c >= 7, '%dx, panel/%s: %s text at %.2f to 1 at the worst pixel' % (s, n, 'yellow' if any(ink) else 'black', c))
     raw = sum(load_rgb(n, s).nbytes for n in list(SIZES) + ['panel/' + p for p in PANELS])
     print('%dx: %.1f MB of pixels' % (s, raw / 1e6))
 
@@ -90,7 +97,8 @@ def pictures(s):
 def main():
     for s in SCALES:
         pictures(s)
-    check(plain('icon', (64, 64), 6), 'size and format of the icon')
+    bad = [n for n in ICONS if not plain('icon/%d' % n, (n, n), 6)]
+    check(not bad, 'size and format of the icons %s' % (bad or ''))
     total = sum(os.path.getsize(os.path.join(d, f)) for d, _, names in os.walk(DATA) for f in names) / 2 ** 20
     check(total < 16, 'all files %.1f MB' % total)
     print('%d failed' % len(failed) if failed else 'all good')

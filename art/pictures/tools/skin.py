@@ -7,7 +7,7 @@ from land import save_rgb
 from joinery import *
 
 PALE = rgb('CBDDF1')                            # enamel of keys; black on it 15 to 1
-HELD = rgb('8CB3F2')                            # of a key that stays down; 9.6 to 1
+HELD = rgb('EFC967')                            # of a key that stays down, lamplight; black on it over 10 to 1
 COBALT = rgb('254482')                          # of a key under the pointer; yellow on it over 7 to 1
 KEY = (48, 26)
 FRAME, CORNER, BEAD = 68, 14, 3.1

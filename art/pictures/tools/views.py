@@ -2,13 +2,16 @@
 of the void.
 
 The three colours of the view differ little for many eyes, so each diamond also
-has a mark of its own: a tick where the service reaches, a cross where it does
-not, a bar for what is no residence.  The very middle stays in the plain colour."""
+has a mark of its own, in a dark shade of its colour: a tick where the service
+reaches, a cross where it does not, a bar for what is no residence.  The very
+middle stays in the plain colour."""
 import numpy as np
 from land import *
 
 LEGEND = {16: (159, 207, 240), 17: (255, 128, 159), 58: (192, 192, 192)}
+MARK = {16: (28, 74, 132), 17: (128, 14, 46), 58: (124, 124, 124)}
 OUTLINE = (128, 128, 128)
+FINE = 8                    # samples a pixel each way, for marks with smooth edges
 
 
 def stroke(x, y, a, b, r):
@@ -19,20 +22,29 @@ def stroke(x, y, a, b, r):
 
 
 def tick(x, y):
-    return stroke(x, y, (25, 16.5), (30, 21.5), 1.25) | stroke(x, y, (30, 21.5), (42, 11.5), 1.25)
+    return stroke(x, y, (25, 17), (30, 21.8), 1.7) | stroke(x, y, (30, 21.8), (42.5, 11.8), 1.7)
 
 
 def cross(x, y):
-    arms = [stroke(x, y, (32 + 9 * i, 16 + 6 * j), (32 + 2.8 * i, 16 + 1.9 * j), 1.25) for i in (-1, 1) for j in (-1, 1)]
+    arms = [stroke(x, y, (32 + 9 * i, 16 + 5.6 * j), (32 + 2.9 * i, 16 + 1.8 * j), 1.7) for i in (-1, 1) for j in (-1, 1)]
     return np.logical_or.reduce(arms)
 
 
 def bar(x, y):
-    outer = (np.abs(x - 32) < 10) & (np.abs(y - 16) < 3)
-    return outer & ~((np.abs(x - 32) < 9) & (np.abs(y - 16) < 2))
+    """Of two parts, as the middle stays plain."""
+    return stroke(x, y, (24, 16), (28.6, 16), 1.5) | stroke(x, y, (35.4, 16), (40, 16), 1.5)
 
 
 MARKS = {16: tick, 17: cross, 58: bar}
+
+
+def marked(out, n, s, left=0, top=0):
+    """The mark of diamond n on a picture, whose corner lies at left, top of the
+    diamond's box; pixels at its edge are covered in part."""
+    h, w = out.shape[:2]
+    y, x = (np.mgrid[0:h * FINE, 0:w * FINE] + .5) / (s * FINE)
+    cover = MARKS[n](x + left, y + top).reshape(h, FINE, w, FINE).mean((1, 3))[..., None]
+    out[..., :3] = np.round(out[..., :3] * (1 - cover) + np.array(MARK[n]) * cover)
 
 
 def plain(colour, s):
@@ -49,19 +61,18 @@ def outlined(s):
 
 
 def diamond(n, s):
-    y, x = (np.mgrid[0:32 * s, 0:64 * s] + .5) / s
     out = plain(LEGEND[n], s)
-    out[outlined(s) | MARKS[n](x, y)] = OUTLINE + (255,)
+    marked(out, n, s)
+    out[outlined(s)] = OUTLINE + (255,)
     return out
 
 
 def swatch(n, s):
     """The legend's chip of 26 x 14: colour, outline and mark of a diamond."""
-    y, x = (np.mgrid[0:14 * s, 0:26 * s] + .5) / s
-    rim = np.minimum(np.minimum(x, 26 - x), np.minimum(y, 14 - y)) < 1
-    out = np.empty(x.shape + (3,), np.uint8)
-    out[:] = LEGEND[n]
-    out[rim | MARKS[n](x + 19, y + 9)] = OUTLINE
+    out = np.empty((14 * s, 26 * s, 3), np.uint8)
+    out[:] = OUTLINE
+    out[s:-s, s:-s] = LEGEND[n]
+    marked(out, n, s, 19, 9)
     return out
 
 
