@@ -118,7 +118,7 @@ inline constexpr auto kRowOfCode = [] {
   for (std::size_t row = 0; row < kBuildings.size(); ++row) {
     const Building& building = kBuildings[row];
     for (int piece = 0; piece < building.side * building.side; ++piece) {
-      rows[static_cast<std::size_t>(building.code + piece)] = static_cast<signed char>(row);
+      rows[building.code + piece] = static_cast<signed char>(row);
     }
   }
   return rows;
@@ -127,8 +127,8 @@ inline constexpr auto kRowOfCode = [] {
 /// The building that a tile code belongs to; null for bare land and for numbers that are no code.
 constexpr const Building* buildingOfCode(int code) {
   if (code < 0 || code > kLastCode) return nullptr;
-  const int row = kRowOfCode[static_cast<std::size_t>(code)];
-  return row < 0 ? nullptr : &kBuildings[static_cast<std::size_t>(row)];
+  const int row = kRowOfCode[code];
+  return row < 0 ? nullptr : &kBuildings[row];
 }
 constexpr bool isTileCode(int code) {
   return code == kEmptyCode || buildingOfCode(code) != nullptr;

@@ -28,11 +28,11 @@ class Row {
 
   T& operator[](int i) {
     checkIndex(i, Low, High, "index");
-    return cells_[static_cast<std::size_t>(i - Low)];
+    return cells_[i - Low];
   }
   const T& operator[](int i) const {
     checkIndex(i, Low, High, "index");
-    return cells_[static_cast<std::size_t>(i - Low)];
+    return cells_[i - Low];
   }
   void fill(const T& value) { cells_.fill(value); }
 

@@ -125,7 +125,7 @@ constexpr std::array<Puzzle, kPuzzles> kPuzzleTable{{
 }  // namespace
 
 const Mission& mission(int number) {
-  return kTable[static_cast<std::size_t>(number - kFirstMission)];
+  return kTable[number - kFirstMission];
 }
 
 const Mission* missionOf(double mode) {
@@ -134,7 +134,7 @@ const Mission* missionOf(double mode) {
 }
 
 const Puzzle& puzzle(int mode) {
-  return kPuzzleTable[static_cast<std::size_t>(mode - kFirstPuzzle)];
+  return kPuzzleTable[mode - kFirstPuzzle];
 }
 
 void writeGoalNotice(platform::Text& into, int mode) {

@@ -64,7 +64,7 @@ void paintBackdrop(Stage& stage) {
     const auto& pictures =
         part.copy == Copy::tile ? stage.pictures.picTile : stage.pictures.picMask;
     stage.canvas.bitBlt(part.box.left, part.box.top, part.box.width, part.box.height,
-                        pictures[static_cast<std::size_t>(part.number)], platform::SRCPAINT);
+                        pictures[part.number], platform::SRCPAINT);
   }
   // Only the countryside counts as drawing load.
   if (backdropOf(stage) == core::Backdrop::countryside) ++stage.game.blitCount;

@@ -83,7 +83,7 @@ void drawBorders(City& city, const core::ProgramValues& values) {
 }
 
 void putWall(City& city, int x, int y, int image) {
-  city.tileImage(x, y) = static_cast<std::int16_t>(image);
+  city.tileImage(x, y) = image;
   city.cellTall(x, y) = 1;
 }
 

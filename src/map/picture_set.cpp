@@ -99,7 +99,7 @@ std::string inWords(const Rect& size) {
 }
 
 bool read(PictureSet& set, const PictureFile& file, const std::string& path, std::string& error) {
-  const auto n = static_cast<std::size_t>(file.number);
+  const int n = file.number;
   switch (file.kind) {
     case pair:
       return platform::readPngPair(path, set.picTile[n], set.picMask[n], error, set.scale());
@@ -130,7 +130,7 @@ bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& fo
                  std::string& error) {
   const std::string path = pathOf(file, folder);
   if (!read(set, file, path, error)) return false;
-  const auto n = static_cast<std::size_t>(file.number);
+  const int n = file.number;
   const platform::Surface& loaded = file.kind == mask ? set.picMask[n] : set.picTile[n];
   const Rect wanted{0, 0, file.size.width, file.size.height};
   if (loaded.bounds() == wanted) {

@@ -29,7 +29,7 @@ Point flatPlace(const CellGeometry& g, int x, int y) {
 /// Draws the picture of a cell with its background transparent. A picture smaller than the box
 /// gives its own pixels only; tall pictures are 64 x 64 like their box, so nothing is ever scaled.
 void drawCell(Stage& stage, const CellGeometry& g, int x, int y, Point place) {
-  const auto image = static_cast<std::size_t>(stage.game.tileImage(x, y));
+  const int image = stage.game.tileImage(x, y);
   stage.canvas.pair(place.x, place.y, g.lngTileWidth, g.lngTileHeight,
                     stage.pictures.picTile[image], stage.pictures.picMask[image],
                     stage.pictures.rows[image]);

@@ -48,7 +48,7 @@ bool isRoad(const City& city, int x, int y) {
 }
 
 void setImage(City& city, int x, int y, int image) {
-  city.tileImage(x, y) = static_cast<std::int16_t>(image);
+  city.tileImage(x, y) = image;
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ int roadImage(const City& city, int x, int y) {
   if (isRoad(city, x - 1, y)) arms += kLeft;
   if (isRoad(city, x + 1, y)) arms += kRight;
   if (isRoad(city, x, y + 1)) arms += kDown;
-  return kShapes[static_cast<std::size_t>(arms)];
+  return kShapes[arms];
 }
 
 int shapePlacedRoad(City& city, int x, int y) {

@@ -20,13 +20,13 @@ constexpr std::array<core::CellOffset, 6> kInFront{
     {{0, 1}, {1, 0}, {1, 1}, {1, 2}, {2, 1}, {2, 2}}};
 
 void setFlat(GameState& game, int x, int y, int image) {
-  game.tileImage(x, y) = static_cast<std::int16_t>(image);
+  game.tileImage(x, y) = image;
   game.cellDirty(x, y) = 1;
   game.cellTall(x, y) = 0;
 }
 
 void setTall(GameState& game, int x, int y, int image) {
-  game.tileImage(x, y) = static_cast<std::int16_t>(image);
+  game.tileImage(x, y) = image;
   game.cellTall(x, y) = 1;
 }
 
@@ -54,7 +54,7 @@ void restoreBuildings(GameState& game) {
       } else if (service != 0) {
         const core::Building& building = core::buildingOfService(service);
         const core::Look& block = building.look;
-        const auto piece = static_cast<std::size_t>(code - building.code);
+        const int piece = code - building.code;
         if (block.tall[piece] == 1) {
           setTall(game, x, y, block.images[piece]);
         } else {
@@ -73,7 +73,7 @@ void showBlock(GameState& game, int x, int y, int service) {
   for (std::size_t piece = 0; piece < core::kBlock.size(); ++piece) {
     const int cellX = x + core::kBlock[piece].x;
     const int cellY = y + core::kBlock[piece].y;
-    game.tileImage(cellX, cellY) = static_cast<std::int16_t>(block.images[piece]);
+    game.tileImage(cellX, cellY) = block.images[piece];
     game.cellDirty(cellX, cellY) = 1;
   }
 }

@@ -29,7 +29,7 @@ inline constexpr std::array<WalkerDesign, 4> kWalkerDesigns{{
 
 /// The design of direction 0..3.
 constexpr const WalkerDesign& walkerDesign(int direction) {
-  return kWalkerDesigns[static_cast<std::size_t>(direction)];
+  return kWalkerDesigns[direction];
 }
 
 }  // namespace map

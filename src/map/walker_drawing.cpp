@@ -52,13 +52,12 @@ void drawBlock(Stage& stage, int slot, int picture) {
   const platform::Point start = tallOrigin(game.walkerX[slot], game.walkerY[slot]);
   const int drawX = start.x + design.base.x;
   const int drawY = start.y + design.base.y;
-  const auto n = static_cast<std::size_t>(picture);
   stage.canvas.pair(drawX + game.walkerPxX[slot], drawY + game.walkerPxY[slot], kBlockWidth,
-                    kBlockHeight, stage.pictures.picTile[n], stage.pictures.picMask[n]);
+                    kBlockHeight, stage.pictures.picTile[picture], stage.pictures.picMask[picture]);
 }
 
 void loadFrame(PictureSet& pictures, int frame) {
-  const platform::Surface& source = pictures.picTile[static_cast<std::size_t>(frame)];
+  const platform::Surface& source = pictures.picTile[frame];
   for (platform::Surface* slot :
        {&pictures.picTile[kWorkingSlot], &pictures.picMask[kWorkingSlot]}) {
     platform::BitBlt(*slot, 0, 0, kBlockWidth, kBlockHeight, source, 0, 0, platform::SRCCOPY);
@@ -82,18 +81,17 @@ void DrawTiles4(Stage& stage, const CellGeometry& geometry) {
   const GameState& game = stage.game;
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] != 1) continue;
-    const auto frame = static_cast<std::size_t>(game.walkerFrame[slot]);
-    loadFrame(stage.pictures, designOf(game, slot).frames[frame]);
+    loadFrame(stage.pictures, designOf(game, slot).frames[game.walkerFrame[slot]]);
     drawBlock(stage, slot, kWorkingSlot);
   }
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] != 1) continue;
-    repaintCover(stage, geometry, slot, kWalking[static_cast<std::size_t>(game.walkerDir[slot])]);
+    repaintCover(stage, geometry, slot, kWalking[game.walkerDir[slot]]);
   }
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] != 1 || game.walkerDone[slot] != 1) continue;
     drawBlock(stage, slot, designOf(game, slot).patch);
-    repaintCover(stage, geometry, slot, kPatched[static_cast<std::size_t>(game.walkerDir[slot])]);
+    repaintCover(stage, geometry, slot, kPatched[game.walkerDir[slot]]);
   }
   stage.canvas.refresh();
 }

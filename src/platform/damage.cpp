@@ -22,31 +22,31 @@ void DamageList::add(const Rect& rect) {
   Rect joined = rect;
   // A rectangle that grew may now touch others of the list, so the search starts again.
   for (int i = 0; i < count_;) {
-    const Rect& other = rects_[static_cast<std::size_t>(i)];
+    const Rect& other = rects_[i];
     if (intersection(other, joined) == joined) return;
     if (growth(joined, other) > 0) {
       ++i;
       continue;
     }
     joined = boundingBox(joined, other);
-    rects_[static_cast<std::size_t>(i)] = rects_[static_cast<std::size_t>(--count_)];
+    rects_[i] = rects_[--count_];
     i = 0;
   }
   if (count_ < kCapacity) {
-    rects_[static_cast<std::size_t>(count_++)] = joined;
+    rects_[count_++] = joined;
     return;
   }
   int best = 0;
   long long least = std::numeric_limits<long long>::max();
   for (int i = 0; i < count_; ++i) {
-    const long long cost = growth(joined, rects_[static_cast<std::size_t>(i)]);
+    const long long cost = growth(joined, rects_[i]);
     if (cost < least) {
       least = cost;
       best = i;
     }
   }
-  joined = boundingBox(joined, rects_[static_cast<std::size_t>(best)]);
-  rects_[static_cast<std::size_t>(best)] = rects_[static_cast<std::size_t>(--count_)];
+  joined = boundingBox(joined, rects_[best]);
+  rects_[best] = rects_[--count_];
   add(joined);
 }
 

@@ -174,7 +174,7 @@ void Desk::pick(int list, int entry) {
   // The entries may have become fewer since the pointer chose one.
   if (entry >= static_cast<int>(content.items.size())) return;
   content.selected = entry;
-  control(list).text.assign(content.items[static_cast<std::size_t>(entry)]);
+  control(list).text.assign(content.items[entry]);
   if (listener_ != nullptr) listener_->onChoose(list);
 }
 
@@ -348,7 +348,7 @@ Rect Desk::boxButton(const Rect& place) {
 void Desk::showBox(std::string_view title, std::string_view text) {
   // When the queue is full the newest box replaces the last one: it matters most.
   if (boxCount_ == static_cast<int>(boxes_.size())) --boxCount_;
-  MessageBox& box = boxes_[static_cast<std::size_t>(boxCount_++)];
+  MessageBox& box = boxes_[boxCount_++];
   box.title.assign(title);
   box.text.assign(text);
   pressed_ = openList_ = openListRow_ = scrolled_ = hovered_ = hoveredEntry_ = -1;
@@ -373,7 +373,7 @@ std::string_view Desk::tooltipText() const {
   if (owner.list == nullptr || owner.design->kind != ControlKind::fileList) return owner.tooltip;
   // A name that is cut off in its list is shown whole.
   if (hoveredEntry_ < 0 || hoveredEntry_ >= static_cast<int>(owner.list->items.size())) return {};
-  const std::string_view name = owner.list->items[static_cast<std::size_t>(hoveredEntry_)];
+  const std::string_view name = owner.list->items[hoveredEntry_];
   const Rect row = listTextPlace(tooltipOwner());
   return font_.width(name, owner.design->font) > row.width ? name : std::string_view{};
 }

@@ -35,7 +35,7 @@ Glyph emptyBox(int height, int scale) {
   for (int y = 0; y < box.height; ++y) {
     for (int x = 0; x < box.width; ++x) {
       const bool rim = x < scale || y < scale || x >= box.width - scale || y >= box.height - scale;
-      if (rim) box.cover[static_cast<std::size_t>(y * box.width + x)] = 255;
+      if (rim) box.cover[y * box.width + x] = 255;
     }
   }
   return box;
@@ -132,9 +132,7 @@ void Font::draw(Surface& target, const Rect& clip, int x, int y, std::string_vie
     const Rect box{at.x + glyph.left, at.y - glyph.top, glyph.width, glyph.height};
     const Rect seen = intersection(box, pixels);
     for (int row = seen.top; row < seen.bottom(); ++row) {
-      const std::uint8_t* cover =
-          &glyph
-               .cover[static_cast<std::size_t>((row - box.top) * box.width + seen.left - box.left)];
+      const std::uint8_t* cover = &glyph.cover[(row - box.top) * box.width + seen.left - box.left];
       std::uint8_t* pixel = target.row(row) + static_cast<std::size_t>(seen.left) * 3;
       for (int i = 0; i < seen.width; ++i, pixel += 3) {
         const int part = cover[i];

@@ -34,7 +34,7 @@ Form::Form(std::span<const ControlDesign> table, const char* background,
       lists_.push_back(std::make_unique<ListContent>());
       control.list = lists_.back().get();
     }
-    std::vector<int>& siblings = order_[static_cast<std::size_t>(design.parent + 1)];
+    std::vector<int>& siblings = order_[design.parent + 1];
     control.rank = static_cast<int>(siblings.size());
     siblings.push_back(static_cast<int>(i));
   }
@@ -59,7 +59,7 @@ void Form::show(int id) {
 
 void Form::raise(int id) {
   Control& control = (*this)[id];
-  std::vector<int>& siblings = order_[static_cast<std::size_t>(control.design->parent + 1)];
+  std::vector<int>& siblings = order_[control.design->parent + 1];
   if (siblings.back() == id) return;
   control.rank = (*this)[siblings.back()].rank + 1;
   const auto at = std::find(siblings.begin(), siblings.end(), id);

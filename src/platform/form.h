@@ -19,8 +19,8 @@ class Form {
        const std::function<const Surface*(std::string_view)>& findImage);
 
   int count() const { return static_cast<int>(controls_.size()); }
-  Control& operator[](int id) { return controls_[static_cast<std::size_t>(id)]; }
-  const Control& operator[](int id) const { return controls_[static_cast<std::size_t>(id)]; }
+  Control& operator[](int id) { return controls_[id]; }
+  const Control& operator[](int id) const { return controls_[id]; }
 
   /// The control with this name and index (kSingle for one that is no array); -1 where there is none.
   /// A name without index also finds the first of an array.
@@ -44,9 +44,7 @@ class Form {
   /// The topmost shown control at a screen pixel that takes a press; -1 for the bare screen.
   int topmost(Point screen) const;
   /// Controls with this parent (kNoParent for those of the screen itself), from back to front.
-  std::span<const int> children(int parent) const {
-    return order_[static_cast<std::size_t>(parent + 1)];
-  }
+  std::span<const int> children(int parent) const { return order_[parent + 1]; }
 
   const Surface* background() const { return background_; }
 

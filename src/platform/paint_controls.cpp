@@ -158,7 +158,7 @@ void paintDropDown(const Brush& brush, const Control& control, const Rect& place
   std::string_view text = control.text;
   const ListContent& list = *control.list;
   if (list.selected >= 0 && list.selected < static_cast<int>(list.items.size())) {
-    text = list.items[static_cast<std::size_t>(list.selected)];
+    text = list.items[list.selected];
   }
   const Rect field{inside.left, inside.top, inside.width - button.width, inside.height};
   const Rect shown{field.left + 4, field.top, field.width - 4, field.height};
@@ -187,8 +187,8 @@ void paintFileList(const Brush& brush, const Control& control, const Rect& place
     if (row.top >= layout.rows.bottom()) break;
     const bool chosen = i == list.selected;
     if (chosen) rows.fill(row, kChosen);
-    paintName(rows, listTextPlace(row), list.items[static_cast<std::size_t>(i)],
-              control.design->font, chosen ? kWhite : control.fore);
+    paintName(rows, listTextPlace(row), list.items[i], control.design->font,
+              chosen ? kWhite : control.fore);
   }
   if (!layout.bar) return;
   brush.fill(layout.track, kTrack);

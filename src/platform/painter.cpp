@@ -37,14 +37,14 @@ std::uint64_t lookOf(const Control& control, const Rect& place) {
   look.with(list.selected).with(count);
   if (control.design->kind == ControlKind::dropDown) {
     if (list.selected >= 0 && list.selected < count) {
-      look.with(list.items[static_cast<std::size_t>(list.selected)]);
+      look.with(list.items[list.selected]);
     }
     return look.value();
   }
   const ListLayout layout = listLayout(place, list);
   look.with(layout.top);
   for (int i = layout.top; i < count && i <= layout.top + layout.fitting; ++i) {
-    look.with(list.items[static_cast<std::size_t>(i)]);
+    look.with(list.items[i]);
   }
   return look.value();
 }
@@ -163,7 +163,7 @@ void Painter::compareChildren(const Form& form, int parent, const Rect& parentPl
 void Painter::compare(const Form& form, int id, const Rect& place, const Rect& clip,
                       const Held& held) {
   const Control& control = form[id];
-  Painted& was = painted_[static_cast<std::size_t>(id)];
+  Painted& was = painted_[id];
   const ControlState state = held.of(id);
   const std::uint64_t list = control.list == nullptr ? 0 : lookOf(control, place);
   const std::span covers(covers_.data(), covering_);
@@ -201,7 +201,7 @@ void Painter::compare(const Form& form, int id, const Rect& place, const Rect& c
 }
 
 void Painter::forgetShown(const Form& form, int id) {
-  Painted& was = painted_[static_cast<std::size_t>(id)];
+  Painted& was = painted_[id];
   if (!was.shown) return;  // then nothing that it holds was shown either
   was.shown = false;
   damage(was.clip, {covers_.data(), covering_});

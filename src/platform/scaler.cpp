@@ -145,7 +145,7 @@ Scaler::Scaler(Size picture, Size display, int scale)
   for (int y = place_.height; y-- > 0;) {
     int row = rows_.first(y);
     for (const std::uint16_t share : rows_.parts(y)) {
-      if (share == 256) lines_[static_cast<std::size_t>(row)] = place_.top + y;
+      if (share == 256) lines_[row] = place_.top + y;
       ++row;
     }
   }
@@ -165,7 +165,7 @@ void Scaler::prepareGrowing() {
       source += static_cast<std::size_t>(picture_.width);
       std::fill_n(&borders_[kPixel * first], kPixel, static_cast<std::uint8_t>(parts[1]));
     }
-    sources_[static_cast<std::size_t>(x)] = static_cast<std::uint16_t>(source);
+    sources_[x] = static_cast<std::uint16_t>(source);
   }
 }
 
@@ -205,8 +205,7 @@ void Scaler::grow(std::uint32_t* to, int begin, int end) {
                reinterpret_cast<const std::uint8_t*>(&packed_[first]), &borders_[kPixel * first],
                kPixel * (last - first));
   }
-  pick(to + begin, packed_.data(), &sources_[static_cast<std::size_t>(begin)],
-       static_cast<std::size_t>(end - begin));
+  pick(to + begin, packed_.data(), &sources_[begin], static_cast<std::size_t>(end - begin));
 }
 
 // The same where a column takes of several pixels: one of each column at a time.
@@ -235,7 +234,7 @@ const std::uint32_t* Scaler::stretchedRow(const Surface& picture, int row, const
                                           const PixelMemory& display) {
   const std::size_t slot = static_cast<std::size_t>(row) % stretched_.size();
   if (kept_[slot].row == row) return kept_[slot].pixels;
-  const int line = lines_[static_cast<std::size_t>(row)];
+  const int line = lines_[row];
   std::uint32_t* const to =
       line >= part.top && line < part.bottom() ? lineOf(display, line) : stretched_[slot].data();
   kept_[slot] = {row, to};

@@ -10,7 +10,7 @@ ScalerAxis::ScalerAxis(int from, int to)
   // The last pixel that pixel i takes of lies before the end of its stretch.
   const auto last = [&](int i) { return static_cast<int>((begin(i + 1) - 1) / to); };
   for (int i = 0; i < to; ++i) {
-    first_[static_cast<std::size_t>(i)] = static_cast<int>(begin(i) / to);
+    first_[i] = static_cast<int>(begin(i) / to);
     taps_ = std::max(taps_, last(i) - first(i) + 1);
   }
   const auto taps = static_cast<std::size_t>(taps_);
@@ -29,7 +29,7 @@ ScalerAxis::ScalerAxis(int from, int to)
     // Near the end the pixels that nothing is taken of would lie beyond the picture.
     const int back = first(i) + taps_ - from;
     if (back <= 0) continue;
-    first_[static_cast<std::size_t>(i)] -= back;
+    first_[i] -= back;
     std::rotate(parts, parts + taps_ - back, parts + taps_);
   }
 }

@@ -22,7 +22,7 @@ class ScalerAxis {
   /// The most pixels of the picture that one of the display takes of.
   int taps() const { return taps_; }
   /// The first pixel of the picture that pixel i of the display takes of.
-  int first(int i) const { return first_[static_cast<std::size_t>(i)]; }
+  int first(int i) const { return first_[i]; }
   /// What it takes of that one and of those behind it: taps() parts of 256, which add up to 256. Some
   /// may be 0; all belong to pixels of the picture.
   std::span<const std::uint16_t> parts(int i) const {

@@ -210,7 +210,7 @@ bool blitPair(Surface& target, int x, int y, int width, int height, const Surfac
     PairRow part{static_cast<std::int16_t>(area.left - place.x),
                  static_cast<std::int16_t>(area.right() - place.x), false};
     if (!rows.empty()) {
-      const PairRow& known = rows[static_cast<std::size_t>(row - place.y)];
+      const PairRow& known = rows[row - place.y];
       part = {std::max(part.first, known.first), std::min(part.end, known.end), known.solid};
       if (part.first >= part.end) continue;
     }

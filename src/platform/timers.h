@@ -25,12 +25,12 @@ class Timers {
   /// `clock` must outlive the timers.
   Timers(std::span<const TimerDesign> table, Clock& clock);
 
-  bool enabled(int id) const { return states_[static_cast<std::size_t>(id)].on; }
+  bool enabled(int id) const { return states_[id].on; }
   void enable(int id);
-  void disable(int id) { states_[static_cast<std::size_t>(id)].on = false; }
+  void disable(int id) { states_[id].on = false; }
   void setEnabled(int id, bool on) { on ? enable(id) : disable(id); }
-  int interval(int id) const { return table_[static_cast<std::size_t>(id)].interval; }
-  const char* name(int id) const { return table_[static_cast<std::size_t>(id)].name; }
+  int interval(int id) const { return table_[id].interval; }
+  const char* name(int id) const { return table_[id].name; }
   int count() const { return static_cast<int>(table_.size()); }
   /// Row of the timer with this name, or -1.
   int find(std::string_view name) const;

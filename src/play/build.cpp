@@ -53,7 +53,7 @@ void giveId(core::City& city, core::Cell cell, int side) {
 
 void writeCell(core::City& city, core::Cell cell, int code, int image, int tall) {
   city.tileCode(cell.x, cell.y) = code;
-  city.tileImage(cell.x, cell.y) = static_cast<std::int16_t>(image);
+  city.tileImage(cell.x, cell.y) = image;
   city.cellTall(cell.x, cell.y) = tall;
 }
 
@@ -65,7 +65,7 @@ void writeCells(core::City& city, const core::Building& building, core::Cell cel
     const bool farm = building.tool == core::kFarmTool;
     const int dx = farm ? piece / side : piece % side;
     const int dy = farm ? piece % side : piece / side;
-    const auto look = static_cast<std::size_t>(side == 2 ? piece : 0);
+    const int look = side == 2 ? piece : 0;
     writeCell(city, {cell.x + dx, cell.y + dy}, building.code + piece, building.look.images[look],
               building.look.tall[look]);
   }

@@ -82,7 +82,7 @@ void placeLines(Scene& scene) {
       scene.form.hide(ui::Line1 + n);
       continue;
     }
-    const LineEnds& ends = lines[static_cast<std::size_t>(n)];
+    const LineEnds& ends = lines[n];
     platform::Control& line = scene.form[ui::Line1 + n];
     line.from = {a + ends.x1, b + ends.y1};
     line.to = {a + ends.x2, b + ends.y2};

@@ -83,7 +83,7 @@ constexpr std::string_view kHomecomingLetter3 =
 std::string_view letter(int number, LetterSet set) {
   if (set == LetterSet::homecoming && number == 2) return kHomecomingLetter2;
   if (set == LetterSet::homecoming && number == 3) return kHomecomingLetter3;
-  return kLetters[static_cast<std::size_t>(number - 1)];
+  return kLetters[number - 1];
 }
 
 std::string_view briefingGoal(int number, LetterSet set) {

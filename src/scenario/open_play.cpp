@@ -11,7 +11,7 @@ void setOpenPlayDefaults(core::ProgramValues& values) {
 }
 
 void takeChoice(core::ProgramValues& values, int n) {
-  const ChoiceBox& box = kChoiceBoxes[static_cast<std::size_t>(n)];
+  const ChoiceBox& box = kChoiceBoxes[n];
   switch (box.choice) {
     case Choice::mapSize:
       values.gMapSize = box.value;

@@ -170,7 +170,7 @@ void chooseMusic(GameScreen& screen, sound::MusicChoice choice) {
 }
 
 void GameScreen::tick(int id) {
-  kTicks[static_cast<std::size_t>(id)](*this);
+  kTicks[id](*this);
 }
 
 void GameScreen::onMouseMove(int id, int x, int y) {

@@ -36,10 +36,10 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   // A row of the two panels of buttons: a picture plate, and the label on it.
   const auto plateRow = [&t](int plateId, const char* plateName, int labelId, const char* labelName,
                              int parent, int left, int top, const char* text) {
-    t[static_cast<std::size_t>(plateId)] = image(plateName, parent, {left, top, 155, 33});
+    t[plateId] = image(plateName, parent, {left, top, 155, 33});
     ControlDesign d =
         label(labelName, parent, {left + 8, top + 5, 145, 25}, text, FontSize::pt11, Align::centre);
-    t[static_cast<std::size_t>(labelId)] = faced(Face::plainKey, d.place, on(kPlate, d));
+    t[labelId] = faced(Face::plainKey, d.place, on(kPlate, d));
   };
 
   t[main] = panel("main", 233, 313);
@@ -81,9 +81,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                  .border = true};
   t[Frame9] = frame("Frame9", campaign, {32, 64, 305, 329}, kPlate);
   for (int k = 0; k < core::kMissions; ++k) {
-    t[static_cast<std::size_t>(Label6 + k)] =
+    t[Label6 + k] =
         label("Label6", Frame9, {32, 8 + 32 * k, 257, 25}, "", FontSize::pt11, Align::left, k);
-    t[static_cast<std::size_t>(Label6 + k)].image = kLockImage;
+    t[Label6 + k].image = kLockImage;
   }
   t[mission] = group("mission", campaign, {344, 64, 201, 129}, "MISSION DETAILS:");
   t[difflbl] = label("difflbl", mission, {8, 24, 187, 20}, "Difficulty: ");
@@ -123,12 +123,12 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   for (int k = 0; k < core::kPuzzles; ++k) {
     const int left = k < 5 ? 56 : 232;
     const int top = 56 + 32 * (k % 5);
-    t[static_cast<std::size_t>(Label20 + k)] =
+    t[Label20 + k] =
         label("Label20", Frame17, {left, top, 145, 25}, "", FontSize::pt11, Align::centre, k);
-    t[static_cast<std::size_t>(Picture10 + k)] = {.name = kMarks[k],
-                                                  .kind = ControlKind::image,
-                                                  .parent = Frame17,
-                                                  .place = {left + 24, top + 8, 12, 10}};
+    t[Picture10 + k] = {.name = kMarks[k],
+                        .kind = ControlKind::image,
+                        .parent = Frame17,
+                        .place = {left + 24, top + 8, 12, 10}};
   }
   t[Picture20] = image("Picture20", Frame17, {8, 216, 12, 10});
   t[Picture20].visible = false;

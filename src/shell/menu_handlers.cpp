@@ -54,7 +54,7 @@ constexpr std::array<Handler, menu_timer::kTimers.size()> kTicks{
 }  // namespace
 
 void MenuScreen::tick(int id) {
-  kTicks[static_cast<std::size_t>(id)](*this);
+  kTicks[id](*this);
 }
 
 void MenuScreen::onMouseMove(int id, int, int) {

@@ -53,7 +53,7 @@ void refuseToSave(Scene& scene, std::string_view why) {
 const std::string* selectedName(const platform::Control& control) {
   const platform::ListContent& list = *control.list;
   if (list.selected < 0 || list.selected >= static_cast<int>(list.items.size())) return nullptr;
-  return &list.items[static_cast<std::size_t>(list.selected)];
+  return &list.items[list.selected];
 }
 
 }  // namespace

@@ -32,12 +32,12 @@ Cells squaresAround(const Cells& cells, int reach) {
   Cells wide{};
   const int rows = static_cast<int>(cells.size());
   for (int row = 0; row < rows; ++row) {
-    const std::uint64_t line = cells[static_cast<std::size_t>(row)];
+    const std::uint64_t line = cells[row];
     if (line == 0) continue;
     std::uint64_t widened = line;
     for (int step = 1; step <= reach; ++step) widened |= line << step | line >> step;
     for (int to = row - reach; to <= row + reach; ++to) {
-      if (to >= 0 && to < rows) wide[static_cast<std::size_t>(to)] |= widened;
+      if (to >= 0 && to < rows) wide[to] |= widened;
     }
   }
   for (std::uint64_t& line : wide) line &= (std::uint64_t{1} << rows) - 1;
@@ -61,16 +61,14 @@ void rebuildCoverage(City& city) {
     for (int x = kFirstCoveredCell; x <= kLastCoveredCell; ++x) {
       const int k = core::serviceOfCode(city.tileCode(x, y));
       if (k == 0) continue;
-      sources[static_cast<std::size_t>(k - 1)][static_cast<std::size_t>(y - kLow)] |=
-          std::uint64_t{1} << (x - kLow);
+      sources[k - 1][y - kLow] |= std::uint64_t{1} << (x - kLow);
     }
   }
   for (int k = 1; k <= kServices; ++k) {
-    const auto service = static_cast<std::size_t>(k - 1);
-    const Cells covered = squaresAround(sources[service], core::buildingOfService(k).reach);
+    const Cells covered = squaresAround(sources[k - 1], core::buildingOfService(k).reach);
     CellGrid<Flag>& cover = core::coverGrid(city, k);
     for (int y = kLow; y <= kHigh; ++y) {
-      std::uint64_t line = covered[static_cast<std::size_t>(y - kLow)];
+      std::uint64_t line = covered[y - kLow];
       for (; line != 0; line &= line - 1) cover(kLow + std::countr_zero(line), y) = 1;
     }
   }

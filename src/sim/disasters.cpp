@@ -67,9 +67,9 @@ void collapse(City& city, platform::Random& random) {
       // A layer is cleared for a building that survives as well as for one that falls: the flood that
       // follows refills it, but over long roads only as far as one flood carries.
       const int k = core::serviceOfCode(code);
-      if (k != 0 && !cleared[static_cast<std::size_t>(k)]) {
+      if (k != 0 && !cleared[k]) {
         clearLayer(city, k);
-        cleared[static_cast<std::size_t>(k)] = true;
+        cleared[k] = true;
       }
       // Every cell draws until one brings its building down: the larger the building, the sooner.
       const double draw = std::floor(10 * random.uniform() + 1);

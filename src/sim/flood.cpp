@@ -128,7 +128,7 @@ bool handOn(const City& city, Network& net, int x, int y) {
 bool pass(const City& city, Network& net) {
   bool added = false;
   for (int n = 0; n < net.spotCount; ++n) {
-    const Spot spot = net.spots[static_cast<std::size_t>(n)];
+    const Spot spot = net.spots[n];
     const std::size_t here = at(spot.x, spot.y);
     const unsigned around =
         net.road[here - 1] | net.road[here + 1] | net.road[here - kSide] | net.road[here + kSide];
@@ -162,8 +162,8 @@ void floodServices(City& city, std::optional<core::Cell> placed) {
       const int code = city.tileCode(x, y);
       const bool isRoad = code == core::kRoadCode;
       if (!isRoad && !core::isResidenceCode(code)) continue;
-      net.spots[static_cast<std::size_t>(net.spotCount++)] = {static_cast<std::int8_t>(x),
-                                                              static_cast<std::int8_t>(y), isRoad};
+      net.spots[net.spotCount++] = {static_cast<std::int8_t>(x), static_cast<std::int8_t>(y),
+                                    isRoad};
       if (isRoad) net.road[at(x, y)] |= static_cast<std::uint8_t>(servicesBeside(city, x, y));
     }
   }

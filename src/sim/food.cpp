@@ -17,7 +17,7 @@ bool growFarms(core::City& city) {
   for (int y = 0; y <= core::kLastCell; ++y) {
     for (int x = 0; x <= core::kLastCell; ++x) {
       if (!core::isFarmCode(city.tileCode(x, y))) continue;
-      city.tileImage(x, y) = static_cast<std::int16_t>(image);
+      city.tileImage(x, y) = image;
       city.cellDirty(x, y) = 1;
     }
   }

@@ -30,7 +30,7 @@ void dress(City& city, int x, int y, const Look& stage) {
   for (std::size_t n = 0; n < core::kBlock.size(); ++n) {
     const int cellX = x + core::kBlock[n].x;
     const int cellY = y + core::kBlock[n].y;
-    city.tileImage(cellX, cellY) = static_cast<std::int16_t>(stage.images[n]);
+    city.tileImage(cellX, cellY) = stage.images[n];
     city.cellTall(cellX, cellY) = stage.tall[n];
     city.cellDirty(cellX, cellY) = 1;
   }

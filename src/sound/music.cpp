@@ -29,15 +29,13 @@ int countMusicSecond(core::GameState& game) {
   game.musicAuto += 1;
   if (game.musicTrack != 0) return game.musicAuto == 1 ? game.musicTrack : 0;
   for (int track = 1; track <= 5; ++track) {
-    if (kSchedule[static_cast<std::size_t>(track - 1)].autoStart == game.musicAuto) return track;
+    if (kSchedule[track - 1].autoStart == game.musicAuto) return track;
   }
   return 0;
 }
 
 void closeMusicCycle(core::GameState& game) {
-  const int cycle = game.musicTrack == 0
-                        ? kAutoCycle
-                        : kSchedule[static_cast<std::size_t>(game.musicTrack - 1)].ownCycle;
+  const int cycle = game.musicTrack == 0 ? kAutoCycle : kSchedule[game.musicTrack - 1].ownCycle;
   if (game.musicAuto >= cycle) game.musicAuto = 0;
 }
 

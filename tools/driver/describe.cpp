@@ -71,7 +71,7 @@ std::string describeControl(const platform::Form& form, int id) {
   std::string_view text = control.text;
   if (control.list != nullptr && control.design->kind == platform::ControlKind::dropDown &&
       control.list->selected >= 0) {
-    text = control.list->items[static_cast<std::size_t>(control.list->selected)];
+    text = control.list->items[control.list->selected];
   }
   json.addText("text", text);
   json.addText("color", hex(control.fore)).addText("back", hex(control.back));

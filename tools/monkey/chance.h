@@ -17,7 +17,7 @@ class Chance {
   bool percent(int likely) { return draw(100) < likely; }
   template <class List>
   const auto& pick(const List& list) {
-    return list[static_cast<std::size_t>(draw(static_cast<int>(std::size(list))))];
+    return list[draw(static_cast<int>(std::size(list)))];
   }
   std::uint64_t seed() { return generator_() >> 12; }
 

@@ -110,7 +110,7 @@ void Watch::watchWalkers() {
         intersection(boundingBox(block, moved(block, next.x, next.y)), surface.bounds());
     for (int y = both.top; y < both.bottom(); ++y) {
       for (int x = both.left; x < both.right(); ++x) {
-        walked_[static_cast<std::size_t>(y * surface.width() + x)] = true;
+        walked_[y * surface.width() + x] = true;
       }
     }
   }
@@ -149,7 +149,7 @@ void Watch::watchSurface() {
     platform::writePng("../is.png", surface, error);
     platform::writePng("../should.png", redrawn_->surface(), error);
     wrong("the surface is not what the cells say at pixel " + text(at) +
-          (walked_.empty() || !walked_[static_cast<std::size_t>(at.y * surface.width() + at.x)]
+          (walked_.empty() || !walked_[at.y * surface.width() + at.x]
                ? ""
                : ", where a walker has been"));
   }

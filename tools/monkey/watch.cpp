@@ -59,7 +59,7 @@ void Watch::newScreen() {
   walked_.clear();
   nextId_ = -1;
   if (game() == nullptr) return;
-  ++tally_.games[waiting() ? 0 : static_cast<std::size_t>(values().gMission.whole())];
+  ++tally_.games[waiting() ? 0 : values().gMission.whole()];
   tickOfMonth_ = game()->tickOfMonth;
   month_ = game()->month;
   taxRate_ = game()->taxRate;
@@ -82,7 +82,7 @@ void Watch::before() {
   if (!form[ui::txtsavename].text.empty()) {
     saving_ = std::string(form[ui::txtsavename].text.view()) + ".sav";
   } else if (list.selected >= 0) {
-    saving_ = list.items[static_cast<std::size_t>(list.selected)];
+    saving_ = list.items[list.selected];
   }
 }
 
@@ -93,9 +93,7 @@ void Watch::step() {
     watchTick();
     watchLoad();
     watchWalkers();
-    const auto begun = [this](int id) {
-      return onSince_[static_cast<std::size_t>(id)] < 0 && on(id);
-    };
+    const auto begun = [this](int id) { return onSince_[id] < 0 && on(id); };
     if (onSince_[timer::Timer8] >= 0 && !on(timer::Timer8)) {
       ++tally_.losses;
       stale_ = true;
@@ -148,7 +146,7 @@ void Watch::watchLoad() {
     loadingRecord_ = record;
     const platform::ListContent& list = *form[ui::File1].list;
     if (list.selected < 0) return wrong("a load without a name");
-    loading_ = list.items[static_cast<std::size_t>(list.selected)];
+    loading_ = list.items[list.selected];
     loadingSpoilt_ = mischief_.spoilt(loading_);
     std::string error;
     const std::string path = session_->folder() + "/" + loading_;
@@ -180,9 +178,7 @@ void Watch::watchTick() {
   tickOfMonth_ = tick;
   month_ = month;
   if (!sound() || !loading_.empty()) return;
-  const auto busy = [this](int id) {
-    return on(id) || onSince_[static_cast<std::size_t>(id)] >= 0;
-  };
+  const auto busy = [this](int id) { return on(id) || onSince_[id] >= 0; };
   if (busy(timer::Timer8) || busy(timer::Timer12) || busy(timer::Timer13)) return;
   if (game()->maintenancePerMonth != maintenanceOf(*game())) {
     wrong("maintenancePerMonth is not that of the map");
@@ -199,7 +195,7 @@ void Watch::watchAges() {
   const std::int64_t now = session_->clock().milliseconds();
   const platform::Timers& timers = screen()->timers();
   for (int id = 0; id < timers.count(); ++id) {
-    std::int64_t& since = onSince_[static_cast<std::size_t>(id)];
+    std::int64_t& since = onSince_[id];
     if (!timers.enabled(id)) {
       since = -1;
       continue;

@@ -75,8 +75,8 @@ bool FreeTypeGlyphs::render(char32_t code, int height, int scale, Glyph& into) {
   into.height = static_cast<int>(bitmap.rows);
   into.cover.resize(static_cast<std::size_t>(into.width * into.height));
   for (int y = 0; y < into.height && into.width > 0; ++y) {
-    std::memcpy(&into.cover[static_cast<std::size_t>(y * into.width)],
-                bitmap.buffer + y * bitmap.pitch, static_cast<std::size_t>(into.width));
+    std::memcpy(&into.cover[y * into.width], bitmap.buffer + y * bitmap.pitch,
+                static_cast<std::size_t>(into.width));
   }
   return true;
 }

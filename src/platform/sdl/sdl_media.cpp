@@ -106,7 +106,7 @@ void SdlMedia::loadCues() {
 void SdlMedia::playCue(int cue) {
   open();
   if (mixer_ == nullptr) return;
-  Mix_Chunk* const chunk = cues_[static_cast<std::size_t>(cue - 1)];
+  Mix_Chunk* const chunk = cues_[cue - 1];
   // The cue that sounds dies away on its own channel while the new one begins on the other: cut off
   // hard, it would tick.
   if (mixer_->playing(channel_) != 0) mixer_->fadeOutChannel(channel_, kFade);
