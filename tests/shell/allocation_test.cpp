@@ -13,7 +13,6 @@
 #include <new>
 #include <random>
 
-#include "play/game_controls.h"
 #include "shell/script_runner.h"
 
 namespace {
@@ -50,17 +49,16 @@ void* allocate(std::size_t size) {
 
 namespace {
 
-namespace ui = play::game_control;
+namespace ui = script::ui;
 
 TEST(Play, TenMinutesOfPressesTicksScrollsAndWalkersAllocateNothing) {
-  script::Play play;
-  play.run("click mainnew\nclick stopen\nclick Check2\nclick opengo\nadvance 500");
+  script::Play play("click mainnew, stopen, Check2, opengo; advance 500");
   // The virtual audio layer keeps a log: without sound and music it has nothing to write.
-  play.run("click Command5\nclick scrollspeedminus\nchoose Combo1 Off\nclick Command7");
-  play.run("set population 1000\nadvance 1000\nclick Command21");
+  play.run("click Command5, scrollspeedminus; choose Combo1 Off; click Command7");
+  play.run("set population=1000; advance 1000; click Command21");
   for (int y = 10; y <= 20; ++y) play.run("press @15," + std::to_string(y));
   driver::Session& session = play.session();
-  core::GameState& game = *session.program().screen()->game();
+  core::GameState& game = play.state();
   session.program().paint();
 
   // Every twenty steps of 200 ms: the panels and modes, and the map in between. Left out are the doors

@@ -29,7 +29,7 @@ bool inside(const platform::Rect& inner, const platform::Rect& outer) {
 /// Calls `look` for each control but the lines of the cursor, on the screen that is open.
 template <class Look>
 void each(Play& play, Look look) {
-  platform::Form& form = play.session().program().screen()->form();
+  platform::Form& form = play.form();
   for (int id = 0; id < form.count(); ++id) {
     if (form[id].design->kind != ControlKind::line)
       look(form, id, std::string(form[id].design->name));
@@ -96,7 +96,7 @@ TEST(ControlTables, HoldEveryControlInItsPlace) {
   for (int n = 10; n <= 19; ++n) marks.insert("Label20 Picture" + std::to_string(n));
   EXPECT_EQ(overlapping(play), marks);
 
-  play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
+  play.run("open-play");
   // The map slides under the screen; the plate of the right-hand panel goes on behind its rim.
   EXPECT_EQ(reachingOut(play), (Names{"Frame6", "picScroll"}));
   EXPECT_EQ(misplacedFaces(play), Names{});
@@ -107,10 +107,10 @@ TEST(ControlTables, HoldEveryControlInItsPlace) {
 
   // What the player never sees side by side with the palette may lie over it: the info panel does.
   play.run("click inform");
-  platform::Form& form = play.session().program().screen()->form();
+  platform::Form& form = play.form();
   EXPECT_TRUE(inside(form[form.find("tileinfo")].place, form.onScreen(form.find("Frame1"))));
   // The banner of the demonstration reaches past the rim by a pixel, over the panel that is hidden.
-  play.run("click gmmenu\nclick Command19\nclick mainhelp\nadvance 500");
+  play.run("menu; click mainhelp; advance 500");
   EXPECT_EQ(reachingOut(play), (Names{"Frame20", "Frame6", "picScroll"}));
 }
 
@@ -145,7 +145,7 @@ TEST(ControlTables, ShowEveryCaptionWhole) {
   Play play;
   platform::Font& font = play.session().font();
   const auto check = [&](const char* name, std::string_view text) {
-    platform::Form& form = play.session().program().screen()->form();
+    platform::Form& form = play.form();
     EXPECT_TRUE(fits(form[form.find(name)], text, font)) << name << ": " << text;
   };
   const auto checkDesigns = [&] {
@@ -170,7 +170,7 @@ TEST(ControlTables, ShowEveryCaptionWhole) {
     checkDesigns();
   }
 
-  play.run("click stopen\nclick opengo\nadvance 500");
+  play.run("click stopen, opengo; advance 500");
   checkDesigns();
   for (int mission = 1; mission <= core::kLastPuzzle; ++mission) {
     platform::Text text;

@@ -8,11 +8,6 @@ namespace {
 
 using script::Play;
 
-const platform::Control& control(Play& play, const char* name, int index = platform::kSingle) {
-  platform::Form& form = play.session().program().screen()->form();
-  return form[form.find(name, index)];
-}
-
 struct Row {
   const char* name;
   int top, bottom;  // of its band on the screen, inclusive
@@ -31,10 +26,10 @@ TEST(Menu, LightsARowWithinItsBandAndSoundsOnEnteringIt) {
   Play play;
   for (const std::vector<Row>& rows : panels) {
     const auto litAt = [&](int x, int y) {
-      play.run("pointer " + std::to_string(x) + " " + std::to_string(y) + "\nadvance 30");
+      play.run("pointer " + std::to_string(x) + " " + std::to_string(y) + "; advance 30");
       std::string lit;
       for (const Row& row : rows) {
-        if (control(play, row.name).fore == platform::kYellow) lit += row.name;
+        if (play.control(row.name).fore == platform::kYellow) lit += row.name;
       }
       return lit;
     };
@@ -56,17 +51,14 @@ TEST(Menu, LightsARowWithinItsBandAndSoundsOnEnteringIt) {
       EXPECT_EQ(play("sounds"), "ok []");
       play.run("set gSoundOn 1");
     }
-    if (control(play, "main").visible) play.run("click mainnew");
+    if (play.control("main").visible) play.run("click mainnew");
   }
 }
 
 TEST(Menu, MarksSolvedPuzzles) {
-  Play play;
-  play.write("config.dat", "1,0,0,1,0,0,0,0,0,0,0,0\r\n");
-  play.restart();
-  play.run("click mainnew\nclick stpuzzle");
-  EXPECT_EQ(control(play, "Picture11").image, control(play, "Picture20").image);
-  EXPECT_EQ(control(play, "Picture12").image, control(play, "Picture21").image);
+  Play play("#write config.dat 1,0,0,1,0,0,0,0,0,0,0,0\nclick mainnew, stpuzzle");
+  EXPECT_EQ(play.control("Picture11").image, play.control("Picture20").image);
+  EXPECT_EQ(play.control("Picture12").image, play.control("Picture21").image);
 }
 
 TEST(OpenPlay, ReckonsTheDifficultyOfAllItsForms) {
@@ -77,11 +69,10 @@ TEST(OpenPlay, ReckonsTheDifficultyOfAllItsForms) {
       {168, 140, 119},  {210, 175, 148.75}, {283.5, 236.25, 200.8125},
       {96, 80, 68},     {120, 100, 85},     {162, 135, 114.75},
       {62.4, 52, 44.2}, {78, 65, 55.25},    {105.3, 87.75, 74.5875}};
-  Play play;
-  play.run("click mainnew\nclick stopen");
-  EXPECT_EQ(control(play, "openplaydiff").text, "Overall difficulty:100%");
+  Play play("click mainnew, stopen");
+  EXPECT_EQ(play.control("openplaydiff").text, "Overall difficulty:100%");
   const auto check = [&](const char* box) {
-    if (!control(play, box).checked) play.run(std::string("click ") + box);
+    if (!play.control(box).checked) play.run(std::string("click ") + box);
   };
   for (int n = 0; n < 27; ++n) {
     // Each click changes the figure, so the last of the three is new.
@@ -89,27 +80,24 @@ TEST(OpenPlay, ReckonsTheDifficultyOfAllItsForms) {
     check(kLands[n / 3 % 3]);
     check(kMoneys[n % 3]);
     const std::string figure(core::NumberText(kDifficulty[n / 3][n % 3]).view());
-    EXPECT_EQ(control(play, "openplaydiff").text, "Overall difficulty:" + figure + "%");
+    EXPECT_EQ(play.control("openplaydiff").text, "Overall difficulty:" + figure + "%");
     int checked = 0;
     for (const auto& group : {kSizes, kLands, kMoneys}) {
-      for (int box = 0; box < 3; ++box) checked += control(play, group[box]).checked;
+      for (int box = 0; box < 3; ++box) checked += play.control(group[box]).checked;
     }
     EXPECT_EQ(checked, 3);
   }
 }
 
 TEST(Menu, MissionsThatAreStillClosedCarryALock) {
-  Play play;
-  play.write("config.dat", "4,0,0,0,0,0,0,0,0,0,0,0\r\n");
-  play.restart();
+  Play play("#write config.dat 4,0,0,0,0,0,0,0,0,0,0,0\nclick mainnew, stcampaign");
   const auto locks = [&play] {
     std::string row;
-    for (int k = 0; k < 10; ++k) row += control(play, "Label6", k).image != nullptr ? 'x' : '-';
+    for (int k = 0; k < 10; ++k) row += play.control("Label6", k).image != nullptr ? 'x' : '-';
     return row;
   };
-  play.run("click mainnew\nclick stcampaign");
   EXPECT_EQ(locks(), "----xxxxxx");
-  play.run("click Label6 3\nset gMission 11\nclick Command11");
+  play.run("click Label6(3); set gMission=11; click Command11");
   EXPECT_EQ(locks(), "----------");
 }
 

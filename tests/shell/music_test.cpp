@@ -10,9 +10,7 @@ namespace {
 using script::Play;
 using Heard = std::vector<std::pair<int, int>>;  // second, theme
 
-void openGame(Play& play) {
-  play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500\nclick Command5\nsounds");
-}
+constexpr const char* kGame = "open-play; click Command5; sounds";
 
 /// Lets seconds pass and notes each theme that is started. Every start is the same three commands.
 Heard listen(Play& play, int seconds) {
@@ -29,46 +27,33 @@ Heard listen(Play& play, int seconds) {
   return heard;
 }
 
-TEST(Music, PlaysAllThemesInTurnAndBeginsAnew) {
-  Play play;
-  openGame(play);
-  EXPECT_EQ(listen(play, 2 * 658 + 1), (Heard{{1, 1},
-                                              {83, 2},
-                                              {208, 3},
-                                              {371, 4},
-                                              {525, 5},
-                                              {659, 1},
-                                              {741, 2},
-                                              {866, 3},
-                                              {1029, 4},
-                                              {1183, 5},
-                                              {1317, 1}}));
+TEST(Music, PlaysAllThemesInTurnAndStartsOver) {
+  Play play(kGame);
+  const Heard heard{{1, 1},   {83, 2},  {208, 3},  {371, 4},  {525, 5}, {659, 1},
+                    {741, 2}, {866, 3}, {1029, 4}, {1183, 5}, {1317, 1}};
+  EXPECT_EQ(listen(play, 2 * 658 + 1), heard);
 }
 
 TEST(Music, RepeatsOneThemeByItsOwnLength) {
-  Play play;
-  openGame(play);
+  Play play(kGame);
   const int lengths[] = {83, 126, 165, 154, 130};
   for (int track = 1; track <= 5; ++track) {
     const int length = lengths[track - 1];
-    play.run("advance 40000\nsounds\nchoose Combo1 Track " + std::to_string(track));
+    play.run("advance 40000; sounds; choose Combo1 Track " + std::to_string(track));
     EXPECT_EQ(listen(play, 2 * length + 1),
               (Heard{{1, track}, {1 + length, track}, {1 + 2 * length, track}}));
   }
 }
 
 TEST(Music, LetsThePlayerLeaveWhileAThemeIsBeingOpened) {
-  Play play;
-  openGame(play);
+  Play play(kGame);
   bool left = false;
   play.session().services().letEventsIn = [&] {
-    if (!std::exchange(left, true)) play.run("click gmmenu\nclick Command19\nclick mainnew");
+    if (!std::exchange(left, true)) play.run("menu; click mainnew");
   };
   play.run("advance 1000");
   EXPECT_TRUE(left);
-  EXPECT_EQ(play("screen"), "ok firstmenu");
-  play.run("advance 5000\nclick stopen\nclick opengo\nadvance 500");
-  EXPECT_EQ(play("get musicAuto"), "ok 0");
+  play.run("screen => firstmenu; advance 5000; click stopen, opengo; advance 500; musicAuto=0");
 }
 
 }  // namespace

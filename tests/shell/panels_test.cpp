@@ -5,11 +5,11 @@
 #include <cctype>
 
 #include "core/vocabulary.h"
-#include "shell/open_game.h"
+#include "shell/script_runner.h"
 
 namespace {
 
-using script::OpenGame;
+using script::Play;
 namespace ui = script::ui;
 
 std::string number(double value) {
@@ -23,15 +23,15 @@ std::string upper(std::string text) {
 }
 
 TEST(Panels, KeysOfTheSidePanelTakeAPressJustWhereTheyLight) {
-  OpenGame play;
+  Play play("open-play");
   for (const int key : {ui::Statusreport, ui::Command5, ui::gmmenu, ui::Label3}) {
     const platform::Rect place = play.form().onScreen(key);
     int lit = 0;
     for (int y = place.top - 12; y < place.bottom() + 12; ++y) {
       for (const int x : {644, 645, 712, 779, 780}) {
-        play.run("pointer " + number(x) + " " + number(y) + "\nadvance 25");
+        play.run("pointer " + number(x) + " " + number(y) + "; advance 25");
         const bool lights = play.form()[key].fore == platform::kYellow;
-        const bool takes = play.session().program().desk().topmost({x, y}) == key;
+        const bool takes = play.program().desk().topmost({x, y}) == key;
         EXPECT_EQ(takes, lights) << play.form()[key].design->name << " " << x << " " << y;
         lit += lights;
       }
@@ -40,23 +40,18 @@ TEST(Panels, KeysOfTheSidePanelTakeAPressJustWhereTheyLight) {
   }
 }
 
-TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
-  OpenGame play;
-  play.run("set population 1000\nadvance 1000\nclick Command21\nset gold 5000");
+TEST(Panels, EveryToolDoesWhatItsCaptionsSay) {
+  Play play("open-play");
+  play.run("set population=1000; advance 1000; click Command21; set gold=5000");
   for (int y = 10; y <= 20; ++y) play.run("press @15," + std::to_string(y));
   struct Site {
     int button, x, y;
   };
-  for (const Site site : {Site{7, 9, 10},
-                          {0, 13, 10},
-                          {8, 10, 16},
-                          {1, 16, 10},
-                          {4, 16, 12},
-                          {2, 16, 14},
-                          {5, 16, 16},
-                          {3, 16, 18}}) {
+  const Site sites[] = {{7, 9, 10},  {0, 13, 10}, {8, 10, 16}, {1, 16, 10},
+                        {4, 16, 12}, {2, 16, 14}, {5, 16, 16}, {3, 16, 18}};
+  for (const Site& site : sites) {
     const std::string press = "press @" + number(site.x) + "," + number(site.y);
-    play.run("click building\nclick Command1 " + number(site.button));
+    play.run("click building, Command1 " + number(site.button));
     const std::string name = play.text(ui::buildcurrent);
     const double gold = play.state().gold;
     const double id = play.state().nextBuildingId;
@@ -71,15 +66,11 @@ TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
     EXPECT_EQ(cells, play.state().cursorFootprint * play.state().cursorFootprint) << name;
 
     const double upkeep = play.state().maintenancePerMonth;
-    play.run("advance 1000\nclick inform\n" + press);
+    play.run("advance 1000; click inform; " + press);
     const std::string added = number(play.state().maintenancePerMonth - upkeep);
     EXPECT_EQ(play.text(ui::mailbl), "Maintenance:" + added);
     tip += added == "0" ? ", no upkeep" : "\nUpkeep " + added + " gold a month";
-    if (site.button == 0) {
-      EXPECT_EQ(name + play.text(ui::namlbl), "Current:HouseTENT");
-    } else {
-      EXPECT_EQ(upper(name), "CURRENT:" + play.text(ui::namlbl));
-    }
+    EXPECT_EQ(upper(name), "CURRENT:" + (site.button == 0 ? "HOUSE" : play.text(ui::namlbl)));
     const std::string area = play.text(ui::buildsize).substr(std::string("Effect area:").size());
     const int k = core::serviceOfCode(play.state().tileCode(site.x, site.y));
     if (k != 0) tip += "\nReaches " + area.substr(0, 1) + " cells each way";
@@ -93,15 +84,14 @@ TEST(Panels, EveryToolCostsCoversReachesAndIsCalledAsTheCaptionsSay) {
     EXPECT_EQ(cover(site.x - (area[0] - '0'), site.y), 1) << name;
     EXPECT_EQ(cover(site.x - (area[0] - '0') - 1, site.y), 0) << name;
   }
-  play.run("press @20,20");
-  EXPECT_EQ(play.text(ui::namlbl) + play.text(ui::mailbl), "EMPTY LANDMaintenance:-");
-  play.run("click building\nclick Command1 6");
-  EXPECT_EQ(play.text(ui::buildcurrent) + play.text(ui::buildprice), "Current:DemolishPrice:-");
-  EXPECT_EQ(play.text(ui::namlbl), "");
+  play.run("press @13,10; namlbl: text=\"TENT\"");
+  play.run("press @20,20; namlbl: text=\"EMPTY LAND\"; mailbl: text=\"Maintenance:-\"");
+  play.run("click building, Command1(6); namlbl: text=\"\"");
+  play.run("buildcurrent: text=\"Current:Demolish\"; buildprice: text=\"Price:-\"");
 }
 
 TEST(Panels, TheKeysOfTheToolTheModeAndTheViewAreHeldDown) {
-  OpenGame play;
+  Play play("open-play");
   const platform::Form& form = play.form();
   const auto held = [&form] {
     std::string names;
@@ -111,7 +101,7 @@ TEST(Panels, TheKeysOfTheToolTheModeAndTheViewAreHeldDown) {
     return names;
   };
   EXPECT_EQ(held(), "N BUILD Road ") << "a new game begins with the road";
-  play.run("set population 1000\nadvance 1000\nclick Command21\nclick seer 3");
+  play.run("set population=1000; advance 1000; click Command21, seer(3)");
   for (int n = 0; n <= 8; ++n) {
     play.run("click Command1 " + number(n));
     const std::string_view name = form[ui::Command1 + n].text.view();
@@ -121,13 +111,12 @@ TEST(Panels, TheKeysOfTheToolTheModeAndTheViewAreHeldDown) {
   EXPECT_EQ(held(), "T INFO ");
   play.run("click building");
   EXPECT_EQ(held(), "T BUILD Road ");
-  play.run("click gmmenu\nclick savegame\nclick txtsavename\ntype town\nclick cmdsave");
-  play.run("click gmmenu\nclick ldgame\nchoose File1 town.sav\nclick cmdload\nadvance 500");
+  play.run("save town; load town");
   EXPECT_EQ(held(), "N INFO ") << "a loaded game opens in the info mode";
 }
 
-TEST(Panels, WhatIsALetterOrAWordOnlyHasATooltip) {
-  OpenGame play;
+TEST(Panels, ControlsWithoutAFullCaptionHaveATooltip) {
+  Play play("open-play");
   const platform::Form& form = play.form();
   constexpr int kControls[] = {ui::pop1,   ui::tarih,       ui::Statusreport,
                                ui::stpop,  ui::showtaxrate, ui::Command1 + 8,
@@ -140,7 +129,7 @@ TEST(Panels, WhatIsALetterOrAWordOnlyHasATooltip) {
     EXPECT_EQ(form[ui::seer + view].tooltip, play.text(ui::currentview));
   }
   const auto secondsOfMonth = [&play] {
-    play.endMonth();
+    play.run("next-month");
     const double month = play.state().month;
     int seconds = 0;
     for (; play.state().month == month; ++seconds) play.run("advance 1000");
@@ -150,7 +139,7 @@ TEST(Panels, WhatIsALetterOrAWordOnlyHasATooltip) {
   const std::string normal = secondsOfMonth();
   play.run("click gamespeedplus");
   const std::string fast = secondsOfMonth();
-  play.run("click gamespeedminus\nclick gamespeedminus");
+  play.run("click gamespeedminus, gamespeedminus");
   EXPECT_EQ(form[ui::gamespeed].tooltip, "A month lasts " + normal + " seconds; fast " + fast +
                                              ", slow " + secondsOfMonth() +
                                              ".\nA new speed counts from the next month on.");

@@ -5,40 +5,22 @@
 
 #include "platform/pixels.h"
 #include "platform/timers.h"
-#include "play/game_controls.h"
 #include "shell/script_runner.h"
 #include "store/record.h"
 
 namespace {
 
 using script::Play;
-namespace ui = play::game_control;
 
-platform::Form& form(Play& play) {
-  return play.session().program().screen()->form();
-}
-
-void openTown(Play& play) {
-  play.run("click mainnew\nclick stopen\nclick opengo\nadvance 500");
-  play.run("press @15,15\npress @15,16\nclick Command1 0\npress @16,15");
-}
-
-void save(Play& play, const std::string& name) {
-  play.run("click gmmenu\nclick savegame\nclick txtsavename");
-  form(play)[ui::txtsavename].text.clear();
-  play.run("type " + name + "\nclick cmdsave");
-}
+constexpr const char* kTown = "open-play; press @15,15 @15,16; residence @16,15";
 
 TEST(SavedGames, SayWhatIsWrongWithANameThatNoFileCanHave) {
-  Play play;
-  openTown(play);
+  Play play(kTown);
   for (const std::string& name : {std::string(300, 'x'), std::string("no/where")}) {
-    save(play, name);
+    play.run("save " + name);
     EXPECT_TRUE(play("box").starts_with(R"(ok {"title":"Save Error","text":")")) << play("box");
     EXPECT_NE(play("box").find(name.substr(name.find('/') + 1, 100)), std::string::npos);
-    play.run("click OK");
-    EXPECT_TRUE(form(play)[ui::framesave].visible);
-    play.run("click Cancelsave\nclick Command17");
+    play.run("click OK; shown framesave; click Cancelsave, Command17");
   }
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(play.folder()), {}),
             1);  // config.dat
@@ -47,9 +29,9 @@ TEST(SavedGames, SayWhatIsWrongWithANameThatNoFileCanHave) {
 /// Everything of a running game that a load could have changed: numbers, grids, timers, controls,
 /// the picture of the map.
 std::string digest(Play& play) {
-  shell::Screen& screen = *play.session().program().screen();
+  shell::Screen& screen = *play.program().screen();
   std::string all;
-  store::composeRecord(*screen.game(), play.session().program().values(), all);
+  store::composeRecord(play.state(), play.program().values(), all);
   for (int id = 0; id < screen.timers().count(); ++id)
     all += screen.timers().enabled(id) ? '1' : '0';
   for (int id = 0; id < screen.form().count(); ++id) {
@@ -60,10 +42,10 @@ std::string digest(Play& play) {
   }
   for (int x = 0; x <= core::kLastCell; ++x) {
     for (int y = 0; y <= core::kLastCell; ++y) {
-      all += std::to_string(screen.game()->tileImage(x, y)) + " ";
+      all += std::to_string(play.state().tileImage(x, y)) + " ";
     }
   }
-  const platform::Surface& map = screen.canvas()->surface();
+  const platform::Surface& map = play.map();
   for (int y = 0; y < map.height(); ++y) {
     all.append(reinterpret_cast<const char*>(map.row(y)),
                static_cast<std::size_t>(map.width()) * 3);
@@ -72,9 +54,8 @@ std::string digest(Play& play) {
 }
 
 TEST(SavedGames, ThatCannotBeReadLeaveTheRunningGameUntouched) {
-  Play play;
-  openTown(play);
-  save(play, "good");
+  Play play(kTown);
+  play.run("save good");
   const std::string good = play.file("good.sav");
   std::string wrongMission = good;
   wrongMission.replace(0, 2, "12");
@@ -87,7 +68,7 @@ TEST(SavedGames, ThatCannotBeReadLeaveTheRunningGameUntouched) {
                               wrongMission};
   // In a running game, and with the load panel opened from the menu.
   for (const bool fromMenu : {false, true}) {
-    play.run(fromMenu ? "click mainload\nadvance 500" : "click gmmenu\nclick ldgame");
+    play.run(fromMenu ? "click mainload; advance 500" : "click gmmenu, ldgame");
     const auto refuses = [&] {
       const std::string before = digest(play);
       play.run("click cmdload");
@@ -96,7 +77,7 @@ TEST(SavedGames, ThatCannotBeReadLeaveTheRunningGameUntouched) {
           << play("box");
       play.run("click OK");
       EXPECT_TRUE(digest(play) == before);
-      EXPECT_TRUE(form(play)[ui::frameload].visible);
+      play.run("shown frameload");
     };
     play.run("choose File1 bad.sav");
     for (const std::string& bad : bads) {
@@ -109,31 +90,24 @@ TEST(SavedGames, ThatCannotBeReadLeaveTheRunningGameUntouched) {
     refuses();
     std::filesystem::remove(play.folder() + "/bad.sav");
     play.write("bad.sav", "");
-    play.run("choose File1 good.sav\nset gold 5\nclick cmdload\nadvance 500");
-    EXPECT_EQ(play("get gold"), "ok 580");
-    play.run("click gmmenu\nclick Command19");
+    play.run("choose File1 good.sav; set gold=5; click cmdload; advance 500; gold=580; menu");
   }
 }
 
-TEST(SavedGames, AreLoadedOnABareScreenThatIsDeaf) {
-  Play play;
-  openTown(play);
-  play.run("click Command1 8\npress @10,10");
-  save(play, "town");
+TEST(SavedGames, AreLoadedOnABareScreenThatTakesNoPress) {
+  Play play(kTown);
+  play.run("farm @10,10; save town");
   const auto waits = [&play](int milliseconds) {
     // Presses where the town was, and a field that grows.
-    play.run("press 100 300\nset tickOfMonth 10\nadvance " + std::to_string(milliseconds));
-    const platform::Surface& map = play.session().program().screen()->canvas()->surface();
-    EXPECT_TRUE(same(map, platform::Surface(map.width(), map.height())));
-    EXPECT_FALSE(form(play)[ui::haber].visible);
+    play.run("press 100 300; set tickOfMonth=10; advance " + std::to_string(milliseconds));
+    EXPECT_TRUE(same(play.map(), platform::Surface(play.map().width(), play.map().height())));
+    play.run("haber: visible=false");
   };
-  play.run("advance 3600\nclick gmmenu\nclick ldgame\nchoose File1 town.sav\nclick cmdload");
+  play.run("advance 3600; click gmmenu, ldgame; choose File1 town.sav; click cmdload");
   waits(499);
-  play.run("advance 1");
-  EXPECT_EQ(play("get tileCode 16 15"), "ok 11");
-  play.run("click gmmenu\nclick Command19\nclick mainload\nadvance 500");
+  play.run("advance 1; tileCode(16,15)=11; menu; click mainload; advance 500");
   waits(5000);
-  play.run("choose File1 town.sav\nclick cmdload");
+  play.run("choose File1 town.sav; click cmdload");
   waits(499);
 }
 

@@ -13,7 +13,6 @@
 
 #include "driver/commands.h"
 #include "map/geometry.h"
-#include "play/game_controls.h"
 
 namespace script {
 
@@ -93,8 +92,7 @@ std::string withPixels(driver::Session& session, std::string command) {
     int y = 0;
     int length = 0;
     if (std::sscanf(command.c_str() + at, "@%d,%d%n", &x, &y, &length) != 2) break;
-    const platform::Rect place =
-        session.program().screen()->form().onScreen(play::game_control::picScroll);
+    const platform::Rect place = session.program().screen()->form().onScreen(ui::picScroll);
     const platform::Point centre = map::cellCentre(x, y);
     const std::string pixel =
         std::to_string(centre.x + place.left) + " " + std::to_string(centre.y + place.top);
@@ -105,10 +103,11 @@ std::string withPixels(driver::Session& session, std::string command) {
 
 }  // namespace
 
-Play::Play() : scenes_(kScenes), before_(std::filesystem::current_path()) {
+Play::Play(const std::string& script) : scenes_(kScenes), before_(std::filesystem::current_path()) {
   char name[] = "/tmp/vellmoran-play-XXXXXX";
   folder_ = mkdtemp(name);
   restart();
+  run(script);
 }
 
 Play::~Play() {
@@ -134,13 +133,30 @@ std::string Play::operator()(const std::string& command) {
 
 void Play::run(const std::string& script) {
   std::istringstream lines(script);
-  for (std::string line; std::getline(lines, line);) {
-    if (!driver::isCommand(line)) continue;
-    if (line.starts_with("let ")) {
-      const std::size_t equals = line.find(" = ");
-      scenes_[line.substr(4, equals - 4)] = line.substr(equals + 3);
-      continue;
-    }
+  for (std::string line; std::getline(lines, line);) runLine(line);
+}
+
+void Play::runLine(const std::string& line) {
+  if (line.starts_with("# ") || line == "#") return;
+  const auto rest = [&line](int from) {
+    const std::size_t blank = line.find(' ', from);
+    return std::pair{line.substr(from, blank - from), line.substr(blank + 1)};
+  };
+  if (line.starts_with("#write ")) {
+    const auto [name, text] = rest(7);
+    write(name, text + "\r\n");
+    restart();
+  } else if (line.starts_with("#file ")) {
+    const auto [name, begin] = rest(6);
+    EXPECT_TRUE(file(name).starts_with(begin)) << line << "\n  " << file(name);
+  } else if (line.starts_with("#= ")) {
+    EXPECT_EQ(answer_, line.substr(3));
+  } else if (line.starts_with("let ")) {
+    const auto [name, steps] = rest(4);
+    scenes_[name] = steps.substr(2);
+  } else if (line.starts_with('#')) {
+    ADD_FAILURE() << line << " is no check";
+  } else {
     for (const std::string& step : cut(line, "; ")) take(step);
   }
 }
@@ -215,26 +231,11 @@ void Play::write(const std::string& name, const std::string& text) const {
 
 void playFile(const std::string& path) {
   std::ifstream in(path);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
-
   Play play;
   int number = 0;
-  for (const std::string& line : lines) {
+  for (std::string line; std::getline(in, line);) {
     SCOPED_TRACE(path + ":" + std::to_string(++number));
-    const std::size_t end = line.find(' ', 7);
-    if (line.starts_with("#write ")) {
-      play.write(line.substr(7, end - 7), line.substr(end + 1) + "\r\n");
-      play.restart();
-    } else if (line.starts_with("#file ")) {
-      const std::string text = play.file(line.substr(6, line.find(' ', 6) - 6));
-      EXPECT_TRUE(text.starts_with(line.substr(line.find(' ', 6) + 1))) << line << "\n  " << text;
-    } else if (line.starts_with("#= ")) {
-      EXPECT_EQ(play.lastAnswer(), line.substr(3));
-    } else {
-      EXPECT_FALSE(line.size() > 1 && line[0] == '#' && line[1] != ' ') << line << " is no check";
-      play.run(line);
-    }
+    play.run(line);
   }
 }
 

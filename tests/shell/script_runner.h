@@ -29,25 +29,35 @@
 #include <string>
 
 #include "driver/session.h"
+#include "play/game_controls.h"
 
 namespace script {
+
+namespace ui = play::game_control;
 
 /// A program in an empty folder of its own, which goes when this goes.
 class Play {
  public:
-  Play();
+  /// Runs the script as its beginning.
+  explicit Play(const std::string& script = "");
   ~Play();
   Play(const Play&) = delete;
   Play& operator=(const Play&) = delete;
 
   driver::Session& session() { return *session_; }
+  shell::Program& program() { return session_->program(); }
+  platform::Form& form() { return program().screen()->form(); }
+  const platform::Control& control(const char* name, int index = platform::kSingle) {
+    return form()[form().find(name, index)];
+  }
+  std::string text(int control) { return std::string(form()[control].text.view()); }
+  core::GameState& state() { return *program().screen()->game(); }
+  const platform::Surface& map() { return program().screen()->canvas()->surface(); }
   const std::string& folder() const { return folder_; }
-  /// Runs one command and gives its answer.
+  /// Runs one command of the driver and returns its answer.
   std::string operator()(const std::string& command);
-  /// Runs a script.
+  /// Runs a script; each answer that differs fails the running test.
   void run(const std::string& script);
-  /// The answer to the last command that was run.
-  const std::string& lastAnswer() const { return answer_; }
   /// Restarts the program in the same folder.
   void restart();
   /// The text of a file in the folder; empty when it is missing.
@@ -55,6 +65,7 @@ class Play {
   void write(const std::string& name, const std::string& text) const;
 
  private:
+  void runLine(const std::string& line);
   void take(const std::string& step);
   void command(const std::string& command);
   void expect(const std::string& command, const std::string& expected);
@@ -66,7 +77,7 @@ class Play {
   std::unique_ptr<driver::Session> session_;
 };
 
-/// Plays a script file; every answer that differs fails the running test.
+/// Plays a script file.
 void playFile(const std::string& path);
 
 }  // namespace script
