@@ -63,6 +63,7 @@ struct ControlDesign {
   Color fore = kBlack;
   Color back = kBlack;
   bool opaque = false;  // fills its box with `back`
+  bool paper = false;   // opaque, and that ground is covered with parchment
   bool border = false;  // a single line around it
   bool visible = true;
   Heading heading = Heading::none;

@@ -8,9 +8,10 @@ namespace platform {
 namespace {
 
 constexpr Color kChosen{52, 86, 159};    // the selected entry of a list
-constexpr Color kBright{225, 238, 253};  // what etched lines show to the light
+constexpr Color kBright{253, 247, 230};  // what etched lines show to the light
 constexpr Color kTrack{216, 200, 164};   // of a scroll bar
 constexpr Color kBrass{152, 112, 48};
+constexpr Color kLedger{226, 211, 176};  // of a row of a table, on parchment
 
 Rect inset(const Rect& r, int by) {
   return {r.left + by, r.top + by, r.width - 2 * by, r.height - 2 * by};
@@ -20,6 +21,17 @@ Rect inset(const Rect& r, int by) {
 bool isPanel(const Control& control) {
   const ControlDesign& design = *control.design;
   return design.parent == kNoParent && design.border && design.opaque;
+}
+
+// A table's rows are a shade darker than the sheet on which they are.
+void paintGround(const Brush& brush, const Control& control, const Rect& place) {
+  if (!control.design->paper) {
+    brush.fill(place, control.back);
+  } else if (control.design->kind == ControlKind::label) {
+    brush.fill(place, kLedger);
+  } else {
+    brush.look(place, Look::sheet);
+  }
 }
 
 Rect faceOf(const Control& control, const Rect& place) {
@@ -38,15 +50,22 @@ void paintGroup(const Brush& brush, const Control& control, const Rect& place) {
   const FontSize size = control.design->font;
   const int half = lineHeight(size) / 2;
   const Rect edge{place.left + 2, place.top + half, place.width - 5, place.height - half - 3};
-  if (control.border) {
-    brush.outline(moved(edge, 1, 1), kBright);
-    brush.outline(edge, kBrass);
-  }
-  if (control.text.empty()) return;
-  const int width = brush.font().width(control.text, size);
   const int left = place.left + 9;
-  brush.fill({left - 3, edge.top, width + 6, 2}, control.back);
-  brush.text(left, place.top, control.text, size, control.fore);
+  const int width = control.text.empty() ? 0 : brush.font().width(control.text, size);
+  if (control.border) {
+    // The lines leave the caption free, whatever ground it has.
+    const int gap = control.text.empty() ? edge.left : left - 3;
+    const int on = control.text.empty() ? edge.left : left + width + 3;
+    for (const auto& [by, color] : {std::pair{1, kBright}, {0, kBrass}}) {
+      const Rect line = moved(edge, by, by);
+      brush.fill({line.left, line.top, gap - edge.left, 1}, color);
+      brush.fill({on + by, line.top, line.right() - on - by, 1}, color);
+      brush.fill({line.left, line.top, 1, line.height}, color);
+      brush.fill({line.right() - 1, line.top, 1, line.height}, color);
+      brush.fill({line.left, line.bottom() - 1, line.width, 1}, color);
+    }
+  }
+  if (!control.text.empty()) brush.text(left, place.top, control.text, size, control.fore);
 }
 
 void paintFrame(const Brush& brush, const Control& control, const Rect& place) {
@@ -54,7 +73,7 @@ void paintFrame(const Brush& brush, const Control& control, const Rect& place) {
   if (design.face == Face::sheet) {
     brush.look(faceOf(control, place), Look::sheet);
   } else if (design.opaque) {
-    brush.fill(place, control.back);
+    paintGround(brush, control, place);
   }
   if (design.heading == Heading::group) {
     paintGroup(brush, control, place);
@@ -118,7 +137,7 @@ void paintLabel(const Brush& brush, const Control& control, const Rect& place,
     return;
   }
   if (design.face == Face::sheet) brush.look(faceOf(control, place), Look::sheet);
-  if (design.opaque) brush.fill(place, control.back);
+  if (design.opaque) paintGround(brush, control, place);
   if (control.border) {
     isPanel(control) ? brush.look(place, Look::frame) : brush.outline(place, kBrass);
   }

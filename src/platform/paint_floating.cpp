@@ -8,7 +8,6 @@ namespace platform {
 namespace {
 
 constexpr int kShadow = 4;
-constexpr Color kGround{203, 221, 241};  // of a message box
 constexpr Color kUnderPointer{52, 86, 159};
 constexpr Color kSelected{214, 196, 152};
 constexpr FontSize kNoteFont = FontSize::pt9;
@@ -72,7 +71,7 @@ void paintTooltip(const Brush& brush, const Rect& place, std::string_view text) 
 
 void paintBox(const Brush& brush, const Rect& place, const MessageBox& box, bool buttonDown) {
   paintShadow(brush, place);
-  brush.fill(place, kGround);
+  brush.look(place, Look::sheet);
   brush.look(place, Look::frame);
   const Rect title{place.left + 4, place.top + 4, place.width - 8, kBoxTitleHeight - 4};
   brush.look(title, Look::sheet);

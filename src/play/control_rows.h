@@ -44,6 +44,21 @@ constexpr ControlDesign hidden(ControlDesign design) {
   return design;
 }
 
+/// The same row with parchment over its ground.
+constexpr ControlDesign onPaper(ControlDesign design) {
+  design.paper = true;
+  return design;
+}
+/// The same row on the ground of what holds it, whatever its own would be.
+constexpr ControlDesign bare(ControlDesign design) {
+  design.opaque = false;
+  return design;
+}
+constexpr ControlDesign unbordered(ControlDesign design) {
+  design.border = false;
+  return design;
+}
+
 /// The same row painted on something of its own, at `box` in the parent.
 constexpr ControlDesign faced(Face face, Rect box, ControlDesign design) {
   design.face = face;

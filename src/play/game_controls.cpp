@@ -16,7 +16,7 @@ constexpr Color kRow{172, 170, 253};
 constexpr Color kBanner{255, 252, 226};
 
 constexpr ControlDesign panel(const char* name, Rect place, const char* caption) {
-  ControlDesign design = hidden(bordered(frame(name, kNoParent, place, kFloating)));
+  ControlDesign design = onPaper(hidden(bordered(frame(name, kNoParent, place, kFloating))));
   design.text = caption;
   design.font = FontSize::pt14;
   design.heading = Heading::title;
@@ -49,7 +49,7 @@ constexpr ControlDesign tool(int index, Rect place, Rect key, const char* text) 
 // A label with a background of its own, as in the rows of a table.
 constexpr ControlDesign cell(const char* name, int parent, Rect place, const char* text,
                              FontSize font, Align align, int index = kSingle) {
-  return on(kRow, label(name, parent, place, text, font, align, index));
+  return onPaper(on(kRow, label(name, parent, place, text, font, align, index)));
 }
 constexpr ControlDesign line(int index) {
   return {.name = "Line1",
@@ -79,7 +79,7 @@ constexpr ControlDesign info(const char* name, int top, const char* text) {
   return label(name, tileinfo, {16, top, 121, 17}, text, FontSize::pt9);
 }
 constexpr ControlDesign preference(const char* name, Rect place, const char* text) {
-  return cell(name, Frame5, place, text, FontSize::pt11, Align::left);
+  return bare(cell(name, Frame5, place, text, FontSize::pt11, Align::left));
 }
 
 constexpr std::array<ControlDesign, kCount> makeTable() {
@@ -153,8 +153,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[tavlbl] = info("tavlbl", 116, "Tavern access:");
   t[totlbl] = info("totlbl", 132, "Total:");
 
-  t[Frame13] = hidden(frame("Frame13", kNoParent, {kParked, 520, 441, 76}, kFloating));
-  t[Frame13].border = true;
+  t[Frame13] =
+      onPaper(hidden(bordered(frame("Frame13", kNoParent, {kParked, 520, 441, 76}, kFloating))));
   t[legendtitle] = label("legendtitle", Frame13, {8, 4, 425, 16}, "LEGEND:", FontSize::pt9);
   t[legendblue] =
       label("legendblue", Frame13, {40, 21, 393, 16},
@@ -168,8 +168,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[swatchred] = image("swatchred", Frame13, {8, 39, 26, 14});
   t[swatchgrey] = image("swatchgrey", Frame13, {8, 56, 26, 14});
 
-  t[Frame21] = hidden(frame("Frame21", kNoParent, {kParked, 560, 409, 25}, kFloating));
-  t[Frame21].border = true;
+  t[Frame21] =
+      onPaper(hidden(bordered(frame("Frame21", kNoParent, {kParked, 560, 409, 25}, kFloating))));
   t[Label18] = label("Label18", Frame21, {4, 2, 401, 21}, "", FontSize::pt11, Align::centre);
 
   t[Frame20] = frame("Frame20", kNoParent, {kParked, 0, 178, 37}, kPanel);
@@ -180,9 +180,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                      Align::centre);
 
   t[statusframe] = panel("statusframe", {kParked, 85, 489, 473}, "STATUS REPORT");
-  t[Text3] = box("Text3", statusframe, {8, 32, 473, 433}, kPlate);
-  t[Command10] = box("Command10", statusframe, {16, 40, 457, 417}, kFloating);
-  t[Frame4] = frame("Frame4", statusframe, {24, 48, 441, 401}, kFloating);
+  t[Text3] = unbordered(bare(box("Text3", statusframe, {8, 32, 473, 433}, kPlate)));
+  t[Command10] = bare(box("Command10", statusframe, {16, 40, 457, 417}, kFloating));
+  t[Frame4] = bare(frame("Frame4", statusframe, {24, 48, 441, 401}, kFloating));
   t[mon1lbl] = month("mon1lbl", 0);
   t[mon2lbl] = month("mon2lbl", 1);
   t[mon3lbl] = month("mon3lbl", 2);
@@ -216,9 +216,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[statusclose] = button("statusclose", statusframe, {464, 0, 25, 27}, "X");
 
   t[showpref] = panel("showpref", {kParked, 200, 265, 241}, "PREFERENCES");
-  t[prefplate1] = box("prefplate1", showpref, {8, 32, 249, 201}, kPlate);
-  t[prefplate2] = box("prefplate2", showpref, {16, 40, 233, 185}, kFloating);
-  t[Frame5] = frame("Frame5", showpref, {24, 48, 217, 169}, kRow);
+  t[prefplate1] = unbordered(bare(box("prefplate1", showpref, {8, 32, 249, 201}, kPlate)));
+  t[prefplate2] = bare(box("prefplate2", showpref, {16, 40, 233, 185}, kFloating));
+  t[Frame5] = bare(frame("Frame5", showpref, {24, 48, 217, 169}, kRow));
   t[Label19] = preference("Label19", {0, 8, 113, 25}, " Music");
   t[Combo1] = {.name = "Combo1",
                .kind = ControlKind::dropDown,
@@ -233,7 +233,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Label7] = preference("Label7", {0, 72, 105, 25}, " Game speed");
   t[gamespeedminus] = button("gamespeedminus", Frame5, {104, 72, 24, 24}, "<");
   t[gamespeed] =
-      cell("gamespeed", Frame5, {128, 72, 65, 25}, "Normal", FontSize::pt11, Align::centre);
+      bare(cell("gamespeed", Frame5, {128, 72, 65, 25}, "Normal", FontSize::pt11, Align::centre));
   t[gamespeedplus] = button("gamespeedplus", Frame5, {192, 72, 24, 24}, ">");
   t[Label13] = preference("Label13", {0, 104, 137, 25}, " Farm animation");
   t[zoomminus] = button("zoomminus", Frame5, {136, 104, 48, 24}, "On");
@@ -242,15 +242,15 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Command7] = button("Command7", showpref, {245, 0, 20, 21}, "X");
 
   t[gamemenu] = panel("gamemenu", {kParked, 210, 217, 185}, "GAME MENU");
-  t[menuplate] = box("menuplate", gamemenu, {16, 40, 185, 136}, kPlate);
-  t[Frame10] = frame("Frame10", gamemenu, {24, 44, 169, 128}, kRow);
+  t[menuplate] = bare(box("menuplate", gamemenu, {16, 40, 185, 136}, kPlate));
+  t[Frame10] = bare(frame("Frame10", gamemenu, {24, 44, 169, 128}, kRow));
   t[savegame] = button("savegame", Frame10, {8, 8, 152, 32}, "SAVE GAME");
   t[ldgame] = button("ldgame", Frame10, {8, 48, 152, 32}, "LOAD GAME");
   t[Command19] = button("Command19", Frame10, {8, 88, 152, 32}, "QUIT GAME");
   t[Command17] = button("Command17", gamemenu, {197, 0, 20, 21}, "X");
 
   t[framesave] = panel("framesave", {kParked, 165, 241, 369}, "SAVE GAME");
-  t[saveplate] = box("saveplate", framesave, {16, 40, 209, 313}, kPlate);
+  t[saveplate] = bare(box("saveplate", framesave, {16, 40, 209, 313}, kPlate));
   t[savehint1] = label("savehint1", framesave, {32, 48, 185, 20}, "Enter a new game name:");
   t[txtsavename] = {.name = "txtsavename",
                     .kind = ControlKind::textBox,
@@ -273,8 +273,9 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Cancelsave] = button("Cancelsave", framesave, {128, 304, 81, 33}, "Cancel");
 
   t[frameload] = panel("frameload", {kParked, 177, 241, 345}, "LOAD GAME");
-  t[loadplate] = box("loadplate", frameload, {16, 40, 209, 289}, kPlate);
-  t[loadhintplate] = box("loadhintplate", frameload, {22, 46, 197, 24}, kFloating);
+  t[loadplate] = bare(box("loadplate", frameload, {16, 40, 209, 289}, kPlate));
+  t[loadhintplate] =
+      unbordered(bare(box("loadhintplate", frameload, {22, 46, 197, 24}, kFloating)));
   t[loadhint] = label("loadhint", frameload, {24, 48, 193, 20}, "Select a game from the list",
                       FontSize::pt11, Align::centre);
   t[File1] = {.name = "File1",

@@ -12,17 +12,17 @@ using namespace menu_control;
 using namespace play::rows;
 
 constexpr ControlDesign panel(const char* name, int width, int height) {
-  return hidden(bordered(frame(name, kNoParent, {kParked, 100, width, height}, kPanel)));
+  return onPaper(hidden(bordered(frame(name, kNoParent, {kParked, 100, width, height}, kPanel))));
 }
 constexpr ControlDesign group(const char* name, int parent, Rect place, const char* caption) {
-  ControlDesign design = bordered(frame(name, parent, place, kPlate));
+  ControlDesign design = bordered(bare(frame(name, parent, place, kPlate)));
   design.text = caption;
   design.heading = Heading::group;
   return design;
 }
-// The plain box inside a panel, around its contents.
+// The plain box inside a panel, around its contents: parchment covers it.
 constexpr ControlDesign plate(const char* name, int parent, int width, int height) {
-  return box(name, parent, {4, 4, width - 8, height - 8}, kPlate);
+  return unbordered(bare(box(name, parent, {4, 4, width - 8, height - 8}, kPlate)));
 }
 constexpr ControlDesign checkBox(const char* name, int parent, Rect place, const char* text) {
   ControlDesign design = row(name, ControlKind::checkBox, parent, place);
@@ -58,7 +58,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
 
   t[startnew] = panel("startnew", 233, 337);
   t[startplate] = plate("startplate", startnew, 233, 337);
-  t[Frame7] = frame("Frame7", startnew, {24, 24, 185, 289}, kPlate);
+  t[Frame7] = bare(frame("Frame7", startnew, {24, 24, 185, 289}, kPlate));
   plateRow(Picture6, "Picture6", stcampaign, "stcampaign", Frame7, 16, 8, "CAMPAIGN");
   plateRow(Picture9, "Picture9", stpuzzle, "stpuzzle", Frame7, 16, 48, "PUZZLE PLAY");
   plateRow(Picture7, "Picture7", stopen, "stopen", Frame7, 16, 88, "OPEN PLAY");
@@ -77,9 +77,8 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
                  .parent = campaign,
                  .place = {28, 60, 313, 337},
                  .back = kPanel,
-                 .opaque = true,
                  .border = true};
-  t[Frame9] = frame("Frame9", campaign, {32, 64, 305, 329}, kPlate);
+  t[Frame9] = bare(frame("Frame9", campaign, {32, 64, 305, 329}, kPlate));
   for (int k = 0; k < core::kMissions; ++k) {
     t[Label6 + k] =
         label("Label6", Frame9, {32, 8 + 32 * k, 257, 25}, "", FontSize::pt11, Align::left, k);
@@ -95,24 +94,22 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Framecpgn] = panel("Framecpgn", 481, 417);
   t[briefingplate] = plate("briefingplate", Framecpgn, 481, 417);
   t[Frame1] = group("Frame1", Framecpgn, {24, 24, 433, 241}, "");
-  t[cpgninfo] =
-      faced(Face::sheet, {8, 20, 417, 213}, label("cpgninfo", Frame1, {16, 28, 401, 201}, ""));
+  t[cpgninfo] = label("cpgninfo", Frame1, {16, 28, 401, 201}, "");
   t[Frame5] = group("Frame5", Framecpgn, {24, 272, 433, 73}, "GOALS");
-  t[goalinfo] =
-      faced(Face::sheet, {8, 20, 417, 46}, label("goalinfo", Frame5, {16, 24, 401, 41}, ""));
+  t[goalinfo] = label("goalinfo", Frame5, {16, 24, 401, 41}, "");
   t[Command11] = button("Command11", Framecpgn, {136, 360, 97, 29}, "Cancel");
   t[Command14] = button("Command14", Framecpgn, {256, 360, 97, 29}, "Play");
 
   t[Frame15] = panel("Frame15", 521, 441);
   t[puzzleplate] = plate("puzzleplate", Frame15, 521, 441);
-  t[Frame16] = frame("Frame16", Frame15, {24, 24, 465, 385}, kPanel);
+  t[Frame16] = bare(frame("Frame16", Frame15, {24, 24, 465, 385}, kPanel));
   t[Frame16].border = true;
   t[Label19] = label("Label19", Frame16, {8, 6, 449, 26}, "PUZZLE PLAY MISSIONS", FontSize::pt14,
                      Align::centre);
   t[Label21] = label("Label21", Frame16, {20, 36, 425, 38},
                      " It is strongly recommended that you complete the campaign before starting "
                      "puzzle missions");
-  t[Frame17] = frame("Frame17", Frame16, {24, 80, 425, 241}, kPlate);
+  t[Frame17] = bare(frame("Frame17", Frame16, {24, 80, 425, 241}, kPlate));
   t[Frame17].border = true;
   t[Label22] = label("Label22", Frame17, {8, 16, 409, 20},
                      "(The missions are ranked according to their difficulty)", FontSize::pt9,
@@ -150,15 +147,14 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Check7] = checkBox("Check7", Frame12, {16, 24, 72, 20}, "Low");
   t[Check8] = checkBox("Check8", Frame12, {96, 24, 84, 20}, "Normal");
   t[Check9] = checkBox("Check9", Frame12, {184, 24, 68, 20}, "High");
-  t[Frame2] = frame("Frame2", openplay, {24, 216, 273, 81}, kPlate);
+  t[Frame2] = bare(frame("Frame2", openplay, {24, 216, 273, 81}, kPlate));
   t[openplaydiff] = label("openplaydiff", Frame2, {56, 8, 209, 24}, "Overall difficulty:100%");
   t[openback] = button("openback", Frame2, {16, 48, 113, 33}, "Cancel ");
   t[opengo] = button("opengo", Frame2, {144, 48, 113, 33}, "Play ");
 
   t[Frame10] = panel("Frame10", 393, 369);
   t[creditsplate] = plate("creditsplate", Frame10, 393, 369);
-  t[Frame11] =
-      faced(Face::sheet, {16, 16, 361, 337}, frame("Frame11", Frame10, {24, 24, 345, 321}, kPlate));
+  t[Frame11] = bare(frame("Frame11", Frame10, {24, 24, 345, 321}, kPlate));
   t[creditstitle] = label("creditstitle", Frame11, {16, 0, 305, 25}, "VELLMORAN CREDITS",
                           FontSize::pt14, Align::centre);
   t[designby] = label("designby", Frame11, {64, 32, 225, 25},

@@ -8,7 +8,6 @@ from land import Image, save_rgb
 from joinery import *
 
 SKY = rgb('8CB3F2')                             # ground of the right-hand panel
-PALE = rgb('CBDDF1')                            # ground of the menu
 # places of keys in the palette, the tools that open with time among them: src/play/game_controls.cpp
 LATER = [(x, y, 70, 25) for y in (165, 197) for x in (2, 73)]
 
@@ -63,7 +62,7 @@ def locked(r, x, y, w, h):
 
 def lock():
     """The mark of a mission that is still closed."""
-    r = Relief(10, 13, PALE)
+    r = Relief(10, 13, PARCHMENT)
     padlock(r, 5, 6.4, 0)
     return r
 
@@ -115,7 +114,7 @@ def post(right):
 
 def menurow(seed):
     """The board of a row of the menu, whose face leaves more room before it than behind."""
-    r = slab(155, 33, seed, rim=1.5, ground=PALE)
+    r = slab(155, 33, seed, rim=1.5, ground=PARCHMENT)
     r.rivet(4.6, 17.5, 1.9)
     return r
 
@@ -144,7 +143,7 @@ def marks():
         y, x = (np.mgrid[0:h * S, 0:w * S] + .5) / S
         for s in SCALES:
             cover = box_down((shape(x, y) > 0).astype(float), S // s)[..., None]
-            yield to_srgb(to_lin(PALE) * (1 - cover) + to_lin(colour) * cover)
+            yield to_srgb(to_lin(PARCHMENT) * (1 - cover) + to_lin(colour) * cover)
 
     def stroke(x, y, a, b, r0, r1):
         d = np.subtract(b, a)
