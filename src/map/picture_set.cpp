@@ -66,8 +66,8 @@ constexpr std::array<PictureFile, 65> kFiles{{
     {45, pair, kTall},
     {46, pair, kTall},
     {47, pair, kFlat},
-    {48, tile, {1000, 460}},      // countryside with a river
-    {48, mask, {1800, 500}},      // countryside
+    {48, tile, {1000, 460}, core::Backdrop::river},
+    {48, mask, {1800, 500}, core::Backdrop::countryside},
     {49, pair, kFlat},            // road corners
     {50, pair, kFlat},
     {51, pair, kFlat},
@@ -82,7 +82,7 @@ constexpr std::array<PictureFile, 65> kFiles{{
     {59, pair, kTall},            // town walls
     {60, pair, kTall},
     {61, pair, kTall},
-    {62, tile, {965, 293}},       // back walls of the town
+    {62, tile, {965, 293}, core::Backdrop::townWalls},
     // clang-format on
 }};
 
@@ -96,6 +96,11 @@ std::string pathOf(const PictureFile& file, const std::string& folder) {
 
 std::string inWords(const Rect& size) {
   return std::to_string(size.width) + " x " + std::to_string(size.height);
+}
+
+/// The surface that the file fills, or the first of two.
+platform::Surface& surfaceOf(PictureSet& set, const PictureFile& file) {
+  return (file.kind == mask ? set.picMask : set.picTile)[file.number];
 }
 
 bool read(PictureSet& set, const PictureFile& file, const std::string& path, std::string& error) {
@@ -131,7 +136,7 @@ bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& fo
   const std::string path = pathOf(file, folder);
   if (!read(set, file, path, error)) return false;
   const int n = file.number;
-  const platform::Surface& loaded = file.kind == mask ? set.picMask[n] : set.picTile[n];
+  const platform::Surface& loaded = surfaceOf(set, file);
   const Rect wanted{0, 0, file.size.width, file.size.height};
   if (loaded.bounds() == wanted) {
     if (file.kind == pair) set.rows[n] = platform::pairRows(set.picTile[n], set.picMask[n]);
@@ -140,6 +145,20 @@ bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& fo
   error = path + ": is " + inWords(loaded.pixelBounds()) + " pixels, not " +
           inWords(loaded.inPixels(wanted));
   return false;
+}
+
+bool loadBackdrop(PictureSet& set, core::Backdrop backdrop, const std::string& folder,
+                  std::string& error) {
+  for (const PictureFile& file : kFiles) {
+    if (file.backdrop == core::Backdrop::none) continue;
+    platform::Surface& picture = surfaceOf(set, file);
+    if (file.backdrop != backdrop) {
+      picture = {};
+    } else if (picture.empty() && !loadPicture(set, file, folder, error)) {
+      return false;
+    }
+  }
+  return true;
 }
 
 bool loadPictures(PictureSet& set, const std::string& folder, std::string& error) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "core/missions.h"
 #include "platform/surface.h"
 
 namespace map {
@@ -38,6 +39,8 @@ struct PictureFile {
     both,  // "tile/NN.png": opaque, fills both alike
   } kind;
   platform::Size size;  // in units
+  core::Backdrop backdrop =
+      core::Backdrop::none;  // the one that is painted with this picture alone
 };
 
 /// The files of the whole set.
@@ -47,7 +50,11 @@ std::span<const PictureFile> pictureFiles();
 /// `error`, when it is missing, damaged or of another size.
 bool loadPicture(PictureSet& set, const PictureFile& file, const std::string& folder,
                  std::string& error);
-/// The same for the whole set, up to the first file that fails.
+/// Loads the pictures of a backdrop, and lets go of those of any other: they are a third of all
+/// pixels, and a mission shows one at most. False as for `loadPicture`.
+bool loadBackdrop(PictureSet& set, core::Backdrop backdrop, const std::string& folder,
+                  std::string& error);
+/// Loads the whole set with every backdrop, up to the first file that fails.
 bool loadPictures(PictureSet& set, const std::string& folder, std::string& error);
 
 }  // namespace map

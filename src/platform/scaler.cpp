@@ -222,8 +222,8 @@ void Scaler::shrink(std::uint32_t* to, int begin, int end) {
 }
 
 std::uint32_t* Scaler::lineOf(const PixelMemory& display, int y) const {
-  return reinterpret_cast<std::uint32_t*>(display.pixels +
-                                          display.stride * static_cast<std::size_t>(y)) +
+  return reinterpret_cast<std::uint32_t*>(
+             display.pixels + display.stride * static_cast<std::size_t>(y - display.top)) +
          place_.left;
 }
 

@@ -26,6 +26,7 @@ struct PixelMemory {
   int red = 16;
   int green = 8;
   int blue = 0;
+  int top = 0;  // the display's line that `pixels` begins with
 };
 
 class Scaler {

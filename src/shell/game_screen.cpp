@@ -27,6 +27,9 @@ bool GameScreen::load() {
 const std::string& GameScreen::folder() const {
   return program_.services().programFolder;
 }
+bool GameScreen::readBackdrop(double mode, std::string& error) {
+  return program_.services().assets.readBackdrop(mode, error);
+}
 platform::Random& GameScreen::random() {
   return program_.services().random;
 }

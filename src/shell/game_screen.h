@@ -41,6 +41,8 @@ class GameScreen : public Screen {
   play::Scene& scene() { return scene_; }
   Program& program() { return program_; }
   const std::string& folder() const;
+  /// Brings in the backdrop of the mode that is about to be shown.
+  bool readBackdrop(double mode, std::string& error);
   platform::Random& random();
   platform::Random& walkerRandom();
   /// The checked record that waits for the second half of a load; null when none does.

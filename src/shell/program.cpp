@@ -32,15 +32,21 @@ bool Program::readAhead() {
   if (ended_ || services_.assets.complete()) return false;
   std::string error;
   if (services_.assets.readNext(error)) return true;
+  endWith(error);
+  return false;
+}
+
+void Program::endWith(const std::string& error) {
   services_.display.message("Error", error.c_str());
   end(1);
-  return false;
 }
 
 void Program::openGame() {
   while (readAhead()) {
   }
   if (ended_) return;
+  std::string error;
+  if (!services_.assets.readBackdrop(values_.gMission, error)) return endWith(error);
   if (canvas_.surface().empty())
     canvas_ = platform::Canvas(map::kRestingPlace.width, map::kRestingPlace.height,
                                services_.assets.scale());
@@ -48,11 +54,14 @@ void Program::openGame() {
   GameScreen& opened = *game;
   const bool cityTakenOver = opened.load();
   open(std::move(game));
+  services_.assets.dropMenuBackground();
   // A box has reported a city that could not be taken over; there is nothing to play.
   if (!cityTakenOver) openMenu();
 }
 
 void Program::openMenu() {
+  std::string error;
+  if (!services_.assets.readMenuBackground(error)) return endWith(error);
   auto menu = std::make_unique<MenuScreen>(*this);
   MenuScreen& opened = *menu;
   open(std::move(menu));

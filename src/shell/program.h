@@ -69,6 +69,7 @@ class Program {
 
  private:
   void open(std::unique_ptr<Screen> screen);
+  void endWith(const std::string& error);
 
   Services& services_;
   core::ProgramValues values_;

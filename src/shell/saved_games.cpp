@@ -161,7 +161,7 @@ void clickLoad(GameScreen& screen) {
   // leaves the running one as it was, and a load that waits already goes on.
   std::string error;
   auto record = store::readGame(screen.folder() + "/" + *name, error);
-  if (record == nullptr) {
+  if (record == nullptr || !screen.readBackdrop(record->values.gMission, error)) {
     scene.desk.showBox(kLoadError, error);
     return;
   }

@@ -38,6 +38,10 @@ bool ImageSet::loadGame(const std::string& folder, std::string& error) {
   return load(play::gameControls(), folder, error);
 }
 
+void ImageSet::dropMenuBackground() {
+  images_.erase(kMenuBackground);
+}
+
 const platform::Surface* ImageSet::find(std::string_view name) const {
   const auto found = images_.find(name);
   return found == images_.end() ? nullptr : &found->second;
@@ -60,9 +64,26 @@ bool Assets::readNext(std::string& error) {
     return panelsRead_;
   }
   if (complete()) return true;
-  if (!map::loadPicture(pictures, map::pictureFiles()[picturesRead_], folder_, error)) return false;
+  const map::PictureFile& file = map::pictureFiles()[picturesRead_];
+  if (file.backdrop == core::Backdrop::none && !map::loadPicture(pictures, file, folder_, error)) {
+    return false;
+  }
   ++picturesRead_;
   return true;
+}
+
+bool Assets::readBackdrop(double mode, std::string& error) {
+  const core::Mission* mission = core::missionOf(mode);
+  const core::Backdrop backdrop = mission == nullptr ? core::Backdrop::none : mission->backdrop;
+  return map::loadBackdrop(pictures, backdrop, folder_, error);
+}
+
+bool Assets::readMenuBackground(std::string& error) {
+  return images.loadMenu(folder_ + "/panel", error);
+}
+
+void Assets::dropMenuBackground() {
+  if (scale() == 2) images.dropMenuBackground();
 }
 
 bool Assets::load(const std::string& dataFolder, std::string& error) {

@@ -29,6 +29,8 @@ class ImageSet {
   /// is there already is kept. False, with the file's name and what is wrong in `error`.
   bool loadMenu(const std::string& folder, std::string& error);
   bool loadGame(const std::string& folder, std::string& error);
+  /// Lets go of the picture behind the menu, the largest, which the menu then loads again.
+  void dropMenuBackground();
   /// Null where there is none of that name.
   const platform::Surface* find(std::string_view name) const;
 
@@ -61,7 +63,13 @@ class Assets {
   bool complete() const;
   /// Reads the next piece of them, a few milliseconds of work. False as for `open`.
   bool readNext(std::string& error);
-  /// Reads everything at once.
+  /// Reads the backdrop of a mode, if it has one, in place of the last. False as for `open`.
+  bool readBackdrop(double mode, std::string& error);
+  /// At a scale of 2 the picture behind the menu, six megabytes, is in memory only while the menu is
+  /// open. False as for `open`.
+  bool readMenuBackground(std::string& error);
+  void dropMenuBackground();
+  /// Reads everything at once but the backdrops.
   bool load(const std::string& dataFolder, std::string& error);
 
  private:

@@ -60,4 +60,22 @@ TEST_F(Loading, EndsTheProgramWithAMessageWhenAPictureIsMissing) {
   EXPECT_NE(session_->display().lastMessage().find("tile/22.png"), std::string::npos);
 }
 
+TEST_F(Loading, LeavesTheOpenCityWhenTheBackdropOfASavedOneIsMissing) {
+  for (const char* command :
+       {"click mainnew", "click stopen", "click opengo", "advance 500", "set gMission 4",
+        "click gmmenu", "click savegame", "click txtsavename", "type river", "click cmdsave",
+        "set gMission 15", "advance 2000"}) {
+    driver::run(*session_, command);
+  }
+  fs::remove(data_ / "pictures/tile");
+  for (const char* command :
+       {"click gmmenu", "click ldgame", "choose File1 river.sav", "click cmdload"}) {
+    driver::run(*session_, command);
+  }
+  EXPECT_NE(driver::run(*session_, "box").find("tile/48.png"), std::string::npos);
+  driver::run(*session_, "box ok");
+  driver::run(*session_, "advance 500");
+  EXPECT_EQ(driver::run(*session_, "get gMission"), "ok 15");
+}
+
 }  // namespace

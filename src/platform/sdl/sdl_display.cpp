@@ -22,6 +22,7 @@ namespace {
 constexpr const char* kTitle = "Vellmoran";
 constexpr int kMessageColumns = 72;
 constexpr Size kPicture{kScreenWidth, kScreenHeight};
+constexpr Rect kWhole{0, 0, kScreenWidth, kScreenHeight};
 
 bool isByte(Uint32 mask) {
   return mask == 0xFFu || mask == 0xFF00u || mask == 0xFF0000u || mask == 0xFF000000u;
@@ -119,7 +120,8 @@ int SdlDisplay::change(Size size) {
 
 bool SdlDisplay::openAnyWindow() {
   // Straight to the window: a renderer behind the window's surface costs a tenth of a second at the
-  // start and a hundred megabytes. Only X has such a surface of its own.
+  // start and a hundred megabytes. Only X has such a surface of its own, which is what is left where
+  // memory cannot be shared with the server.
   const bool straight = std::string_view(SDL_GetCurrentVideoDriver()) == "x11";
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, straight ? "0" : nullptr);
   if (openWindow()) return true;
@@ -142,7 +144,8 @@ bool SdlDisplay::openWindow() {
     window_ =
         SDL_CreateWindow(kTitle, monitor.x, monitor.y, monitor.w, monitor.h, SDL_WINDOW_BORDERLESS);
   }
-  if (window_ == nullptr || SDL_GetWindowSurface(window_) == nullptr) {
+  if (window_ != nullptr) x11_ = X11Window::open(window_);
+  if (window_ == nullptr || (x11_ == nullptr && SDL_GetWindowSurface(window_) == nullptr)) {
     failure_ = SDL_GetError();
     closeWindow();
     return false;
@@ -197,6 +200,7 @@ bool SdlDisplay::focused() const {
 }
 
 void SdlDisplay::closeWindow() {
+  x11_.reset();
   if (window_ != nullptr) SDL_DestroyWindow(window_);
   window_ = nullptr;
   windowSize_ = {};
@@ -248,6 +252,23 @@ bool SdlDisplay::inWindow(Point point) const {
 
 void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> changed) {
   if (window_ == nullptr) return;
+  if (x11_ == nullptr) {
+    presentOnSurface(framebuffer, changed);
+    return;
+  }
+  std::array<Rect, DamageList::kCapacity> parts;
+  if (!barsShown_ || changed.size() > parts.size()) changed = {&kWhole, 1};
+  std::size_t count = 0;
+  for (const Rect& rect : changed) parts[count++] = scaler_->covered(rect);
+  if (!barsShown_) x11_->showBars(scaler_->place(), windowSize_);
+  barsShown_ = true;
+  if (x11_->present(*scaler_, framebuffer, {parts.data(), count})) return;
+  x11_.reset();
+  barsShown_ = false;
+  presentOnSurface(framebuffer, changed);
+}
+
+void SdlDisplay::presentOnSurface(const Surface& framebuffer, std::span<const Rect> changed) {
   SDL_Surface* const surface = SDL_GetWindowSurface(window_);
   if (surface == nullptr) return;
   if (Size{surface->w, surface->h} != windowSize_) {
@@ -259,13 +280,12 @@ void SdlDisplay::present(const Surface& framebuffer, std::span<const Rect> chang
 
   std::array<SDL_Rect, DamageList::kCapacity + 1> shown;
   std::size_t count = 0;
-  const Rect whole{0, 0, kScreenWidth, kScreenHeight};
   const bool everything = !barsShown_ || changed.size() > shown.size();
   if (!barsShown_) {
     SDL_FillRect(surface, nullptr, SDL_MapRGB(surface->format, 0, 0, 0));
     barsShown_ = true;
   }
-  if (everything) changed = {&whole, 1};
+  if (everything) changed = {&kWhole, 1};
   // A display of another depth gets its pixels by way of a surface of 32 bits.
   const bool direct = wholeBytes(*surface->format);
   SDL_Surface* const target = direct ? surface

@@ -7,6 +7,7 @@
 
 #include "platform/display.h"
 #include "platform/scaler.h"
+#include "platform/sdl/x11_window.h"
 
 struct SDL_Rect;
 struct SDL_Window;
@@ -58,6 +59,7 @@ class SdlDisplay : public Display {
   bool openWindow();
   void closeWindow();
   void setIcon();
+  void presentOnSurface(const Surface& framebuffer, std::span<const Rect> changed);
 
   bool openForMessage();
   SDL_Rect desktop() const;
@@ -67,6 +69,7 @@ class SdlDisplay : public Display {
   std::string font_;
   std::string failure_;
   SDL_Window* window_ = nullptr;
+  std::unique_ptr<X11Window> x11_;  // null where the window's own surface is used
   std::unique_ptr<Scaler> scaler_;
   Size windowSize_{};
   int scale_ = 0;  // 0 while nobody has wanted to know
