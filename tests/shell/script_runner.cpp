@@ -18,14 +18,14 @@ namespace script {
 
 namespace {
 
-std::shared_ptr<shell::Assets> sharedAssets() {
-  static std::shared_ptr<shell::Assets> assets = [] {
+std::shared_ptr<shell::Assets> sharedAssets(int scale) {
+  static std::map<int, std::shared_ptr<shell::Assets>> assets;
+  if (assets[scale] == nullptr) {
     std::string error;
-    auto loaded = driver::Session::loadAssets(VELLMORAN_BUILD_DIR "/data", error);
-    if (loaded == nullptr) ADD_FAILURE() << error;
-    return loaded;
-  }();
-  return assets;
+    assets[scale] = driver::Session::loadAssets(VELLMORAN_BUILD_DIR "/data", error, scale);
+    if (assets[scale] == nullptr) ADD_FAILURE() << error;
+  }
+  return assets[scale];
 }
 
 /// The keys of the palette, in their order.
@@ -103,7 +103,8 @@ std::string withPixels(driver::Session& session, std::string command) {
 
 }  // namespace
 
-Play::Play(const std::string& script) : scenes_(kScenes), before_(std::filesystem::current_path()) {
+Play::Play(const std::string& script, int scale)
+    : scenes_(kScenes), scale_(scale), before_(std::filesystem::current_path()) {
   char name[] = "/tmp/vellmoran-play-XXXXXX";
   folder_ = mkdtemp(name);
   restart();
@@ -119,7 +120,7 @@ Play::~Play() {
 void Play::restart() {
   session_.reset();
   std::string error;
-  session_ = driver::Session::start(folder_, sharedAssets(), error);
+  session_ = driver::Session::start(folder_, sharedAssets(scale_), error);
   if (session_ == nullptr) {
     ADD_FAILURE() << error;
     return;

@@ -38,8 +38,8 @@ namespace ui = play::game_control;
 /// A program in an empty folder of its own, which goes when this goes.
 class Play {
  public:
-  /// Runs the script as its beginning.
-  explicit Play(const std::string& script = "");
+  /// Runs the script as its beginning, drawn at a scale.
+  explicit Play(const std::string& script = "", int scale = 1);
   ~Play();
   Play(const Play&) = delete;
   Play& operator=(const Play&) = delete;
@@ -72,6 +72,7 @@ class Play {
 
   std::map<std::string, std::string> scenes_;
   std::string answer_;
+  int scale_;
   std::string folder_;
   std::string before_;
   std::unique_ptr<driver::Session> session_;
