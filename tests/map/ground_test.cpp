@@ -68,6 +68,21 @@ TEST(Ground, RingsLieAroundThePlaySquareAndTheVoidWins) {
   }
 }
 
+TEST(Ground, ACastleHasWallsOnTheTwoSidesNearestTheViewer) {
+  MadeUpCity city;
+  city.values.gMission = 9;
+  city.values.gMapSize = 12;
+  platform::Random random(nullptr);
+  readmap(city.game, city.values, random);
+  eachPixel(31, 31, [&](int x, int y) {
+    const bool alongX = y == 22 && x >= 9 && x <= 22, alongY = x == 22 && y >= 9 && y <= 22;
+    ASSERT_EQ(city.game.cellTall(x, y), alongX || alongY) << x << ", " << y;
+    if (!alongX && !alongY) return;
+    const bool tower = x == y || x == 15 || y == 15;
+    EXPECT_EQ(city.game.tileImage(x, y), tower ? 61 : alongX ? 59 : 60) << x << ", " << y;
+  });
+}
+
 void lay(MadeUpCity& city, int x, int y) {
   city.put(x, y, core::kRoadCode, 1, 0);
   shapePlacedRoad(city.game, x, y);

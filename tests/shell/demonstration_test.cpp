@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "core/vocabulary.h"
+#include "play/press.h"
+#include "shell/game_screen.h"
 #include "shell/script_runner.h"
 
 namespace {
@@ -55,6 +57,16 @@ TEST(Demonstration, BuildsItsCitySilentlyAndGoesBackToTheMenu) {
   }
   EXPECT_EQ(play("sounds").find("wav"), std::string::npos);
   play.run("toolUnlocked(1)=0; advance 1; screen => firstmenu; sounds => [\"close canyon\"]");
+}
+
+TEST(Demonstration, LeavesAResidenceUnservedThatAPlayersPressWouldServe) {
+  // The road touches a cell that the market does not cover, beside one that it does.
+  Play game("open-play; press @10,16 @11,16 @12,16 @13,16 @14,16 @15,16 @16,16 @17,16 @17,15");
+  game.run("market @10,14; click Command1(0)");
+  auto& screen = static_cast<shell::GameScreen&>(*game.program().screen());
+  play::useTool(screen.scene(), core::kResidenceTool, {16, 13}, play::User::demonstration);
+  game.run("tileCode(16,13)=11 cellService(1,16,13)=0");
+  game.run("demolish @16,13; residence @16,13; cellService(1,16,13)=1");
 }
 
 }  // namespace

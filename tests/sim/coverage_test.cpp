@@ -138,8 +138,8 @@ TEST(Residences, HouseAndShowWhatServicesTaxAndFoodAllow) {
   } steps[] = {{0, 15, 1, 8, 4, 0, 4},    {1, 15, 1, 16, 4, 0, 0},   {4, 20, 1, 36, 19, 0, 12},
                {4, 20, 1, 36, 19, 0, 12},  // a house is marked again though nothing changed
                {5, 15, 1, 48, 3, 1, 12},  {5, 30, 1, 33, 19, 0, 12}, {4, 15, 1, 40, 3, 1, 12},
-               {2, 15, 1, 24, 19, 0, 12}, {5, 0, 1, 62, 3, 1, 12},   {1, 0, 0, 16, 4, 0, 12},
-               {0, 0, 0, 10, 4, 0, 0}};
+               {2, 15, 1, 24, 19, 0, 12}, {0, 15, 1, 8, 4, 0, 9},    {5, 0, 1, 62, 3, 1, 12},
+               {1, 0, 0, 16, 4, 0, 12},   {0, 0, 0, 10, 4, 0, 0}};
   for (const auto& [services, tax, food, housing, image, tall, marked] : steps) {
     g.taxRate = tax;
     g.food = food;

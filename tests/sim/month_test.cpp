@@ -99,6 +99,17 @@ TEST(History, FloorsEachSumAndGoesOnFromColumnFour) {
   for (int row = 1; row <= 14; ++row) EXPECT_EQ(city.game.history(4, row), kRows[row - 1]) << row;
 }
 
+TEST(History, DividesTheShareOfServedResidencesOutBeforeItIsFloored) {
+  City city;
+  for (int n = 0; n < 50; ++n) {
+    city.game.tileCode(n % 30, n / 30) = core::kResidenceCode;
+    city.game.cellService[core::kMarket](n % 30, n / 30) = n < 29 ? 1 : 0;
+  }
+  rateServices(city.game, city.game);
+  EXPECT_EQ(city.game.marketRating, 57);
+  EXPECT_EQ(city.game.schoolRating, 0);
+}
+
 TEST(Earthquake, DrawsForEachStandingCellAndClearsTheLayersOfWhatStands) {
   City city;
   core::GameState& g = city.game;
