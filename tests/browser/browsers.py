@@ -96,6 +96,24 @@ class Chromium(Browser):
     def type(self, text):
         self.on('Input.insertText', text=text)
 
+    def show(self, page):
+        self.call('Page.bringToFront', session=page)
+
+    def press_enter(self, modifiers=0):
+        for kind in ('rawKeyDown', 'keyUp'):
+            self.on('Input.dispatchKeyEvent', type=kind, key='Enter', code='Enter', windowsVirtualKeyCode=13,
+                    modifiers=modifiers)
+
+    def press_alt_enter(self):
+        self.press_enter(modifiers=1)
+
+    def save_downloads(self, folder):
+        self.call('Browser.setDownloadBehavior', behavior='allow', downloadPath=folder)
+
+    def choose_files(self, selector, files):
+        field = self.on('Runtime.evaluate', expression=f'document.querySelector("{selector}")')['result']
+        self.on('DOM.setFileInputFiles', files=files, objectId=field['objectId'])
+
 
 class Firefox(Browser):
     path = '/session'
@@ -129,6 +147,9 @@ class Firefox(Browser):
     def press(self, x, y):
         self.perform('pointer', [{'type': 'pointerMove', 'x': round(x), 'y': round(y)},
                                  {'type': 'pointerDown', 'button': 0}, {'type': 'pointerUp', 'button': 0}])
+
+    def show(self, page):
+        self.call('browsingContext.activate', context=page)
 
     def type(self, text):
         self.perform('key', [{'type': kind, 'value': letter} for letter in text for kind in ('keyDown', 'keyUp')])

@@ -1,4 +1,12 @@
-// Loaded before the page's own script: time that passes only when a test lets it.
+// Loaded before the page's own script: time that passes only when a test lets it, the texts that were
+// handed to the program, and a browser without what ?without= names.
+for (const name of new URLSearchParams(location.search).getAll('without')) delete window[name];
+self.handed = [];
+const encode = TextEncoder.prototype.encode;
+TextEncoder.prototype.encode = function (text) {
+  self.handed.push(text);
+  return encode.call(this, text);
+};
 let now = 0;
 let last = 0;
 const waiting = new Map();
