@@ -12,6 +12,7 @@
 #include "platform/sdl/sdl_display.h"
 #include "platform/sdl/sdl_events.h"
 #include "platform/sdl/sdl_media.h"
+#include "platform/sdl/session_end.h"
 #include "shell/program.h"
 #include "shell/unsaved_city.h"
 
@@ -21,7 +22,12 @@ namespace {
 class Window {
  public:
   Window(platform::SdlDisplay& display, platform::PausingClock& clock, shell::Program& program)
-      : display_(display), clock_(clock), program_(program), events_(display) {}
+      : display_(display), clock_(clock), program_(program), events_(display) {
+    platform::whenDisplayIsLost([this] { endFromOutside(); });
+  }
+  ~Window() { platform::whenDisplayIsLost({}); }
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
 
   /// Delivers what waits, after waiting for it up to `timeout` milliseconds.
   void takeEvents(std::int64_t timeout) {
@@ -31,10 +37,7 @@ class Window {
       program_.desk().setNow(clock_.milliseconds());
       platform::deliver(event, program_.desk());
       if (event.kind == platform::EventKind::redraw) program_.painter().forget();
-      if (event.kind == platform::EventKind::quit) {
-        shell::keepUnsavedCity(program_);
-        program_.end(0);
-      }
+      if (event.kind == platform::EventKind::quit) endFromOutside();
       notePage();
       timeout = 0;
     }
@@ -53,6 +56,10 @@ class Window {
   }
 
  private:
+  void endFromOutside() {
+    shell::keepUnsavedCity(program_);
+    program_.end(0);
+  }
   /// Milliseconds; -1 where only an event will bring something to do.
   std::int64_t untilDue() {
     const std::int64_t due = clock_.paused() ? -1 : program_.nextDue();
@@ -89,8 +96,10 @@ int main(int argc, char** argv) {
   platform::SdlDisplay display(data + "/pictures/icon/128.png", data + "/font.otf");
   std::string folder;
   std::string error;
+  std::string folderFault;
   if (!platform::findProgramFolder(folder, error) || !platform::enterFolder(folder, error)) {
-    display.message("Error", error.c_str());  // the game can be played all the same
+    folderFault = "Games cannot be saved: " + error;  // and played all the same
+    std::fprintf(stderr, "vellmoran: %s\n", folderFault.c_str());
   }
   shell::Assets assets(display.scale());
   if (!assets.open(data, error)) {
@@ -103,8 +112,8 @@ int main(int argc, char** argv) {
   platform::Random random(&realClock, realClock.ticks());
   platform::Random walkerRandom(&realClock, realClock.ticks());
   platform::SdlClipboard clipboard;
-  shell::Services services{clock,  random, walkerRandom, media,     display,
-                           assets, folder, {},           &clipboard};
+  shell::Services services{clock,  random, walkerRandom, media,      display,
+                           assets, folder, {},           &clipboard, folderFault};
   shell::Program program(services);
   Window window(display, clock, program);
   services.letEventsIn = [&window] { window.takeEvents(0); };

@@ -8,7 +8,7 @@ namespace shell {
 
 Program::Program(Services& services)
     : services_(services),
-      progress_(services.programFolder),
+      progress_(services.programFolder, services.folderFault),
       desk_(*services.assets.font, services.clipboard),
       painter_(*services.assets.font, services.assets.skin),
       framebuffer_(platform::kScreenWidth, platform::kScreenHeight, services.assets.scale()) {}

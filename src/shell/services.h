@@ -90,6 +90,8 @@ struct Services {
   std::function<void()> letEventsIn;
   /// Null where the program shares none with others.
   platform::Clipboard* clipboard = nullptr;
+  /// Why nothing can be kept in that folder, for the menu to say once; empty where it can.
+  std::string folderFault = {};
 };
 
 }  // namespace shell

@@ -1,12 +1,18 @@
 #include "store/progress_keeper.h"
 
+#include <utility>
+
 namespace store {
 
 Progress ProgressKeeper::read(std::string& notice) {
   notice.clear();
   std::string error;
   if (!writeKept(error)) return *kept_;
-  prepareProgress(folder_, notice);
+  if (fault_.empty()) {
+    prepareProgress(folder_, notice);
+  } else if (!std::exchange(faultReported_, true)) {
+    notice = fault_;
+  }
   Progress progress;
   if (!readProgress(folder_, progress, error)) progress = {};
   return progress;

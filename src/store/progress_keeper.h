@@ -11,7 +11,10 @@ namespace store {
 
 class ProgressKeeper {
  public:
-  explicit ProgressKeeper(std::string folder) : folder_(std::move(folder)) {}
+  /// `fault` is why the folder cannot be used at all, empty where it can. It is the first notice of
+  /// `read`, and the only one about the folder.
+  explicit ProgressKeeper(std::string folder, std::string fault = "")
+      : folder_(std::move(folder)), fault_(std::move(fault)) {}
 
   /// The program's folder, where the hand-over files are too.
   const std::string& folder() const { return folder_; }
@@ -26,6 +29,8 @@ class ProgressKeeper {
 
  private:
   std::string folder_;
+  std::string fault_;
+  bool faultReported_ = false;
   std::optional<Progress> kept_;
 };
 

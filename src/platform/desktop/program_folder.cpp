@@ -47,7 +47,7 @@ bool findProgramFolder(std::string& folder, std::string& error) {
   if (!folder.empty() && isFolder(folder + "/data") && folderWritable(folder)) return true;
   const std::string data = userDataFolder();
   if (data.empty()) {
-    error = "Neither the program's folder can be written nor is there a home folder";
+    error = "there is no home folder to keep them in";
     return false;
   }
   folder = data + "/vellmoran";

@@ -1,5 +1,7 @@
 #include "platform/sdl/message_window.h"
 
+#include <SDL.h>
+
 #include "platform/painter.h"
 #include "platform/sdl/sdl_display.h"
 #include "platform/sdl/sdl_events.h"
@@ -42,6 +44,12 @@ bool showMessage(SdlDisplay& display, const std::string& fontPath, std::string_v
     if (!events.next(event, -1)) continue;
     if (event.kind == EventKind::redraw) painter.forget();
     deliver(event, desk);
+  }
+  // Who asked the program to quit did not mean the box alone.
+  if (event.kind == EventKind::quit) {
+    SDL_Event quit{};
+    quit.type = SDL_QUIT;
+    SDL_PushEvent(&quit);
   }
   return true;
 }

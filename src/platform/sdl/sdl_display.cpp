@@ -1,7 +1,6 @@
 #include "platform/sdl/sdl_display.h"
 
 #include <SDL.h>
-#include <signal.h>
 
 #include <algorithm>
 #include <array>
@@ -12,6 +11,7 @@
 #include "platform/png.h"
 #include "platform/sdl/hush.h"
 #include "platform/sdl/message_window.h"
+#include "platform/sdl/session_end.h"
 #include "platform/sdl/window_manager.h"
 #include "platform/wrap_columns.h"
 
@@ -45,16 +45,6 @@ Size windowedSize(Size desktop) {
   const int factor = std::max(
       1, std::min(desktop.width * 9 / 10 / kScreenWidth, desktop.height * 9 / 10 / kScreenHeight));
   return {kScreenWidth * factor, kScreenHeight * factor};
-}
-
-// The end of a session or of the terminal that the game was started from asks it to quit, as SIGTERM
-// does. Who starts it under nohup wants it to go on.
-void hangUpAsTermination() {
-  struct sigaction hangUp {};
-  sigaction(SIGHUP, nullptr, &hangUp);
-  if (hangUp.sa_handler != SIG_DFL) return;
-  hangUp.sa_handler = [](int) { raise(SIGTERM); };
-  sigaction(SIGHUP, &hangUp, nullptr);
 }
 
 }  // namespace
