@@ -18,7 +18,8 @@ constexpr int kBuffer = 1024;     // frames: a cue begins within 25 ms
 constexpr int kMusicVolume = 64;  // of 128; louder, full chords clip
 constexpr int kFade = 10;         // milliseconds in which a cue that is cut off dies away
 
-// The themes are balanced for the first of these; the others are what a machine may have instead.
+// A game that is carried about as a folder brings its soundfont along, beside the themes. The themes are
+// balanced for the first of these; the others are what a machine may have instead.
 constexpr const char* kSoundFonts[] = {
     "/usr/share/sounds/sf2/TimGM6mb.sf2",
     "/usr/share/sounds/sf2/default-GM.sf2",
@@ -78,14 +79,18 @@ void SdlMedia::open() {
   mixer_ = mixer;
   mixer_->allocateChannels(2);
   mixer_->volumeMusic(kMusicVolume);
+  const std::string bundled = soundFolder_ + "/soundfont.sf2";
+  if (isSoundFont(bundled.c_str())) useSoundFont(bundled.c_str());
   for (const char* font : kSoundFonts) {
-    if (!isSoundFont(font)) continue;
-    mixer_->setSoundFonts(font);
-    fontFound_ = true;
-    break;
+    if (!fontFound_ && isSoundFont(font)) useSoundFont(font);
   }
   if (!fontFound_) std::fprintf(stderr, "vellmoran: no music: there is no soundfont\n");
   loadCues();
+}
+
+void SdlMedia::useSoundFont(const char* path) {
+  mixer_->setSoundFonts(path);
+  fontFound_ = true;
 }
 
 std::string SdlMedia::find(const std::string& name) const {

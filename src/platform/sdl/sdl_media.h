@@ -34,6 +34,7 @@ class SdlMedia : public Media {
  private:
   /// The file of a theme or cue, by its bare name; empty when there is none.
   std::string find(const std::string& name) const;
+  void useSoundFont(const char* path);
   void loadCues();
 
   std::string programFolder_;
