@@ -157,7 +157,7 @@ Rect Desk::openListPlace() const {
   if (openList() < 0) return {};
   const Rect box = form_->onScreen(openList_);
   const int height = static_cast<int>(control(openList_).list->items.size()) * kListRowHeight + 2;
-  if (box.bottom() + height <= 600) return {box.left, box.bottom(), box.width, height};
+  if (box.bottom() + height <= kScreenHeight) return {box.left, box.bottom(), box.width, height};
   return {box.left, std::max(0, box.top - height), box.width, height};
 }
 
@@ -338,7 +338,7 @@ Rect Desk::boxPlace(const MessageBox& box, Font& font) {
   const int width = std::clamp(std::max(text.width, title), 160, 740) + 2 * kBoxMargin;
   const int lines = std::max(1, text.height) * lineHeight(kBoxFont);
   const int height = std::min(580, kBoxTitleHeight + lines + 3 * kBoxMargin - 8 + 27);
-  return {(800 - width) / 2, (600 - height) / 2, width, height};
+  return {(kScreenWidth - width) / 2, (kScreenHeight - height) / 2, width, height};
 }
 
 Rect Desk::boxButton(const Rect& place) {

@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-constexpr Rect kWholeScreen{0, 0, 800, 600};
+constexpr Rect kWholeScreen{0, 0, kScreenWidth, kScreenHeight};
 
 /// Half of a whole number, rounded to nearest, ties to even.
 int half(int value) {

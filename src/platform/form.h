@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/control.h"
+#include "platform/display.h"
 
 namespace platform {
 
@@ -33,7 +34,7 @@ class Form {
   /// Moves a control within its parent.
   void moveTo(int id, int left, int top);
   /// Moves a panel to the middle of an area that begins at the screen's corner.
-  void centre(int id, int areaWidth = 800, int areaHeight = 600);
+  void centre(int id, int areaWidth = kScreenWidth, int areaHeight = kScreenHeight);
 
   /// Position and size on the screen.
   Rect onScreen(int id) const;

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/display.h"
 #include "platform/layout.h"
 #include "platform/paint.h"
 
@@ -50,8 +51,9 @@ Rect tooltipPlace(const Rect& owner, std::string_view text, Font& font) {
   const int width = lines.width + 2 * kNoteMargin;
   const int height = lines.height * lineHeight(kNoteFont) + kNoteMargin;
   const int below = owner.bottom() + 4;
-  return {std::clamp(owner.left, 0, std::max(0, 800 - kShadow - width)),
-          below + height + kShadow <= 600 ? below : owner.top - height - 4, width, height};
+  return {std::clamp(owner.left, 0, std::max(0, kScreenWidth - kShadow - width)),
+          below + height + kShadow <= kScreenHeight ? below : owner.top - height - 4, width,
+          height};
 }
 
 void paintTooltipFrame(const Brush& brush, const Rect& place) {

@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-constexpr Rect kScreen{0, 0, 800, 600};
+constexpr Rect kScreen{0, 0, kScreenWidth, kScreenHeight};
 
 /// A number that tells one look of a floating thing or a list from another.
 class Digest {

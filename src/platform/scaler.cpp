@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/display.h"
 #include "platform/vector_loops.h"
 
 namespace platform {
@@ -10,7 +11,7 @@ namespace platform {
 namespace {
 
 constexpr std::size_t kPixel = 4;
-constexpr Size kUnits{800, 600};
+constexpr Size kUnits{kScreenWidth, kScreenHeight};
 
 /// Where a picture lies on a display, and whether a pixel of it takes a whole number of pixels there.
 struct Placed {

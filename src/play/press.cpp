@@ -25,20 +25,15 @@ void closePress(Scene& scene, int tool, core::Cell cell, User user) {
       for (int dx = 0; dx < 3; ++dx) game.cellDirty(cell.x + dx, cell.y + dy) = 1;
     }
   }
-  redrawAfterBuild(scene);
+  redraw(scene, map::DrawTiles3);
   map::unmarkCells(game, 0, core::kLastCell);
 }
 
 }  // namespace
 
-void redrawAfterBuild(Scene& scene) {
+void redraw(Scene& scene, DrawTall drawTall) {
   map::DrawTiles32(scene.stage, map::kFlatCells);
-  map::DrawTiles3(scene.stage, map::kTallCells);
-}
-
-void redraw(Scene& scene) {
-  map::DrawTiles32(scene.stage, map::kFlatCells);
-  map::DrawTiles2(scene.stage, map::kTallCells);
+  drawTall(scene.stage, map::kTallCells);
 }
 
 void useTool(Scene& scene, int tool, core::Cell cell, User user) {

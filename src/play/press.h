@@ -16,9 +16,9 @@ enum class User { player, demonstration };
 /// 1..9.
 void useTool(Scene& scene, int tool, core::Cell cell, User user);
 
-/// Redraws the dirty cells and the tall ones, as after every build click and after the earthquake.
-void redrawAfterBuild(Scene& scene);
-/// Redraws the dirty cells and the tall ones, as after every other change.
-void redraw(Scene& scene);
+/// Redraws the dirty cells and the tall ones. `drawTall` is DrawTiles3 after a build click and after the
+/// earthquake, DrawTiles2 after every other change.
+using DrawTall = void (*)(map::Stage&, const map::CellGeometry&);
+void redraw(Scene& scene, DrawTall drawTall = map::DrawTiles2);
 
 }  // namespace play

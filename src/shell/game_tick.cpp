@@ -136,7 +136,7 @@ void shakeTick(GameScreen& screen) {
   sim::collapse(game, screen.random());
   sim::rebuildCity(game, {.flood = true});
   map::markCells(game, 0, core::kLastCell);
-  play::redrawAfterBuild(scene);
+  play::redraw(scene, map::DrawTiles3);
   map::unmarkCells(game, 0, core::kLastCell);
   sim::endEarthquake(game);
   scene.timers.disable(timer::Timer12);

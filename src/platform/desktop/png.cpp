@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/desktop/system_error.h"
+
 namespace platform {
 
 namespace {
@@ -24,7 +26,7 @@ template <typename Buffer>
 bool decode(const std::string& path, int scale, std::string& error, Buffer buffer) {
   std::FILE* file = std::fopen(path.c_str(), "rb");
   if (file == nullptr) {
-    error = path + ": " + std::strerror(errno);
+    error = path + ": " + systemError(errno);
     return false;
   }
   png_image image{};
@@ -129,7 +131,7 @@ bool readPngRgba(const std::string& path, std::vector<std::uint8_t>& into, Size&
 bool writePng(const std::string& path, const Surface& surface, std::string& error) {
   std::FILE* file = std::fopen(path.c_str(), "wb");
   if (file == nullptr) {
-    error = path + ": " + std::strerror(errno);
+    error = path + ": " + systemError(errno);
     return false;
   }
   png_image image{};
@@ -142,7 +144,7 @@ bool writePng(const std::string& path, const Surface& surface, std::string& erro
                                static_cast<png_int_32>(surface.stride()), nullptr) != 0;
   const bool closed = std::fclose(file) == 0;
   if (written && closed) return true;
-  error = path + ": " + (written ? std::strerror(errno) : image.message);
+  error = path + ": " + (written ? systemError(errno) : image.message);
   std::remove(path.c_str());
   return false;
 }
