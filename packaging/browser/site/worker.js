@@ -6,10 +6,21 @@ const RELEASE = '@RELEASE@';
 const FILES = ['./', 'vellmoran.webmanifest', 'icon.png',
   ...'@FILES@'.split(' ').map((name) => `${RELEASE}/${name}`)];
 
+// The packs of the scales that the player has had so far, in this release or one before it.
+async function packs() {
+  const scales = [];
+  for (const name of await caches.keys()) {
+    for (const { url } of await (await caches.open(name)).keys()) scales.push(/\/menu(\d)\.pack$/.exec(url)?.[1]);
+  }
+  return [1, 2].filter((scale) => scales.includes(`${scale}`))
+    .flatMap((scale) => [`${RELEASE}/menu${scale}.pack`, `${RELEASE}/game${scale}.pack`]);
+}
+
 async function keepAll() {
+  const wanted = [...FILES, ...await packs()];
   const cache = await caches.open(RELEASE);
   // What the page has kept already is not fetched a second time.
-  for (const file of FILES) if (!await cache.match(file)) await cache.add(file);
+  for (const file of wanted) if (!await cache.match(file)) await cache.add(file);
 }
 
 async function dropOthers() {
