@@ -6,36 +6,37 @@ namespace {
 
 constexpr int kStoredCells = 35;  // grids are reset, and stored, for the cells 0 .. 35
 
-void clearGrids(GameState& game) {
-  game.tileCode.fillSquare(0, kStoredCells, 0);
-  game.cellCapacity.fillSquare(0, kStoredCells, 0);
-  for (int k = 1; k <= kServices; ++k) coverGrid(game, k).fillSquare(0, kStoredCells, 0);
-  game.cellServices.fillSquare(0, kStoredCells, 0);
-  game.cellTall.fillSquare(0, kStoredCells, 0);
-  game.cellDirty.fillSquare(0, kStoredCells, 0);
-  game.buildingId.fillSquare(0, kStoredCells, 0);
+void clearGrids(City& city) {
+  city.tileCode.fillSquare(0, kStoredCells, 0);
+  city.cellCapacity.fillSquare(0, kStoredCells, 0);
+  for (int k = 1; k <= kServices; ++k) coverGrid(city, k).fillSquare(0, kStoredCells, 0);
+  city.cellServices.fillSquare(0, kStoredCells, 0);
+  city.cellTall.fillSquare(0, kStoredCells, 0);
+  city.cellDirty.fillSquare(0, kStoredCells, 0);
+  city.buildingId.fillSquare(0, kStoredCells, 0);
   for (int k = 1; k <= kServices; ++k) {
-    game.roadService[k].fillSquare(0, kLastCell, 0);
-    game.cellService[k].fillSquare(0, kLastCell, 0);
+    city.roadService[k].fillSquare(0, kLastCell, 0);
+    city.cellService[k].fillSquare(0, kLastCell, 0);
   }
 }
 
 }  // namespace
 
-void clearWalker(GameState& game, int slot) {
-  game.walkerX[slot] = game.walkerY[slot] = game.walkerDir[slot] = game.walkerFrame[slot] = 0;
-  game.walkerPxX[slot] = game.walkerPxY[slot] = 0;
-  game.walkerCellDX[slot] = game.walkerCellDY[slot] = 0;
-  game.walkerActive[slot] = game.walkerDone[slot] = 0;
+void clearWalker(Walkers& walkers, int slot) {
+  walkers.walkerX[slot] = walkers.walkerY[slot] = walkers.walkerDir[slot] =
+      walkers.walkerFrame[slot] = 0;
+  walkers.walkerPxX[slot] = walkers.walkerPxY[slot] = 0;
+  walkers.walkerCellDX[slot] = walkers.walkerCellDY[slot] = 0;
+  walkers.walkerActive[slot] = walkers.walkerDone[slot] = 0;
 }
 
-void clearWalkers(GameState& game) {
-  for (int slot = 1; slot <= kWalkers; ++slot) clearWalker(game, slot);
+void clearWalkers(Walkers& walkers) {
+  for (int slot = 1; slot <= kWalkers; ++slot) clearWalker(walkers, slot);
 }
 
-void clearHistory(GameState& game) {
+void clearHistory(City& city) {
   for (int column = -4; column <= 50; ++column) {
-    for (int row = 1; row <= 18; ++row) game.history(column, row) = 0;
+    for (int row = 1; row <= 18; ++row) city.history(column, row) = 0;
   }
 }
 

@@ -11,11 +11,11 @@ namespace core {
 void resetGame(GameState& game, ProgramValues& values);
 
 /// Clears all ten walker slots in all their fields.
-void clearWalkers(GameState& game);
+void clearWalkers(Walkers& walkers);
 /// Clears one walker slot, 1..10.
-void clearWalker(GameState& game, int slot);
+void clearWalker(Walkers& walkers, int slot);
 
 /// Clears the history of columns -4 .. 50 in rows 1 .. 18.
-void clearHistory(GameState& game);
+void clearHistory(City& city);
 
 }  // namespace core

@@ -88,12 +88,12 @@ void repaintTallCells(Stage& stage, const CellGeometry& geometry, int firstX, in
   }
 }
 
-void markCells(GameState& game, int low, int high) {
-  game.cellDirty.fillSquare(low, high, 1);
+void markCells(core::City& city, int low, int high) {
+  city.cellDirty.fillSquare(low, high, 1);
 }
 
-void unmarkCells(GameState& game, int low, int high) {
-  game.cellDirty.fillSquare(low, high, 0);
+void unmarkCells(core::City& city, int low, int high) {
+  city.cellDirty.fillSquare(low, high, 0);
 }
 
 }  // namespace map

@@ -51,7 +51,7 @@ void paintBackdrop(Stage& stage);
 void repaintTallCells(Stage& stage, const CellGeometry& geometry, int firstX, int firstY);
 
 /// Sets the dirty marks of the cells low .. high both ways.
-void markCells(core::GameState& game, int low, int high);
-void unmarkCells(core::GameState& game, int low, int high);
+void markCells(core::City& city, int low, int high);
+void unmarkCells(core::City& city, int low, int high);
 
 }  // namespace map

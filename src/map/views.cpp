@@ -10,7 +10,7 @@ namespace map {
 
 namespace {
 
-using core::GameState;
+using core::City;
 
 // One more than the board: the last line may carry marks and is never drawn.
 constexpr int kLastScanned = core::kLastCell + 1;
@@ -19,68 +19,68 @@ constexpr int kLastScanned = core::kLastCell + 1;
 constexpr std::array<core::CellOffset, 6> kInFront{
     {{0, 1}, {1, 0}, {1, 1}, {1, 2}, {2, 1}, {2, 2}}};
 
-void setFlat(GameState& game, int x, int y, int image) {
-  game.tileImage(x, y) = image;
-  game.cellDirty(x, y) = 1;
-  game.cellTall(x, y) = 0;
+void setFlat(City& city, int x, int y, int image) {
+  city.tileImage(x, y) = image;
+  city.cellDirty(x, y) = 1;
+  city.cellTall(x, y) = 0;
 }
 
-void setTall(GameState& game, int x, int y, int image) {
-  game.tileImage(x, y) = image;
-  game.cellTall(x, y) = 1;
+void setTall(City& city, int x, int y, int image) {
+  city.tileImage(x, y) = image;
+  city.cellTall(x, y) = 1;
 }
 
 /// A field is bare for the first third of the month, then grows, then ripens; of the tests that
 /// hold the last decides.
-int farmImage(const GameState& game) {
+int farmImage(const City& city) {
   int image = core::kFarmImage1;
-  if (game.farmAnimationOn == 1) {
-    const double tick = game.tickOfMonth;
-    const int third = game.monthLength.whole() / 3;
+  if (city.farmAnimationOn == 1) {
+    const double tick = city.tickOfMonth;
+    const int third = city.monthLength.whole() / 3;
     if (tick > third) image = core::kFarmImage2;
     if (tick >= 2 * third) image = core::kFarmImage3;
   }
   return image;
 }
 
-void restoreBuildings(GameState& game) {
-  const int field = farmImage(game);
+void restoreBuildings(City& city) {
+  const int field = farmImage(city);
   for (int y = 0; y <= kLastScanned; ++y) {
     for (int x = 0; x <= kLastScanned; ++x) {
-      const int code = game.tileCode(x, y);
+      const int code = city.tileCode(x, y);
       const int service = core::serviceOfCode(code);
       if (service == core::kDoctor) {
-        setTall(game, x, y, core::kDoctorImage);
+        setTall(city, x, y, core::kDoctorImage);
       } else if (service != 0) {
         const core::Building& building = core::buildingOfService(service);
         const core::Look& block = building.look;
         const int piece = code - building.code;
         if (block.tall[piece] == 1) {
-          setTall(game, x, y, block.images[piece]);
+          setTall(city, x, y, block.images[piece]);
         } else {
-          setFlat(game, x, y, block.images[piece]);
+          setFlat(city, x, y, block.images[piece]);
         }
       } else if (core::isFarmCode(code)) {
-        setFlat(game, x, y, field);
+        setFlat(city, x, y, field);
       }
     }
   }
 }
 
 /// Gives the building anchored at (x, y) its own pictures again and marks its cells.
-void showBlock(GameState& game, int x, int y, int service) {
+void showBlock(City& city, int x, int y, int service) {
   const core::Look& block = core::buildingOfService(service).look;
   for (std::size_t piece = 0; piece < core::kBlock.size(); ++piece) {
     const int cellX = x + core::kBlock[piece].x;
     const int cellY = y + core::kBlock[piece].y;
-    game.tileImage(cellX, cellY) = block.images[piece];
-    game.cellDirty(cellX, cellY) = 1;
+    city.tileImage(cellX, cellY) = block.images[piece];
+    city.cellDirty(cellX, cellY) = 1;
   }
 }
 
-bool isUnderTallPicture(const GameState& game, int x, int y) {
+bool isUnderTallPicture(const City& city, int x, int y) {
   for (const core::CellOffset& d : kInFront) {
-    if (game.cellTall(x + d.x, y + d.y) == 1) return true;
+    if (city.cellTall(x + d.x, y + d.y) == 1) return true;
   }
   return false;
 }
@@ -88,25 +88,25 @@ bool isUnderTallPicture(const GameState& game, int x, int y) {
 // The scan flattens buildings as it goes. The cells that ground is compared with all come later in
 // it, so a building about to be flattened still counts, and its old top is cleared off the ground
 // behind.
-void colourByAccess(GameState& game, int view) {
-  sim::markObjectCells(game);
+void colourByAccess(City& city, int view) {
+  sim::markObjectCells(city);
   for (int y = 0; y <= kLastScanned; ++y) {
     for (int x = 0; x <= kLastScanned; ++x) {
-      const int code = game.tileCode(x, y);
+      const int code = city.tileCode(x, y);
       if (code == core::kEmptyCode || code == core::kRoadCode) {
-        if (isUnderTallPicture(game, x, y)) game.cellDirty(x, y) = 1;
+        if (isUnderTallPicture(city, x, y)) city.cellDirty(x, y) = 1;
       } else if (core::serviceOfCode(code) == view) {
         if (code == core::kDoctorCode) {
-          setTall(game, x, y, core::kDoctorImage);
-          game.cellDirty(x, y) = 1;
+          setTall(city, x, y, core::kDoctorImage);
+          city.cellDirty(x, y) = 1;
         } else if (code == core::buildingOfService(view).code) {
-          showBlock(game, x, y, view);
+          showBlock(city, x, y, view);
         }
       } else if (core::isResidenceCode(code)) {
-        const bool served = game.cellService[view](x, y) == 1;
-        setFlat(game, x, y, served ? core::kServedImage : core::kUnservedImage);
+        const bool served = city.cellService[view](x, y) == 1;
+        setFlat(city, x, y, served ? core::kServedImage : core::kUnservedImage);
       } else {
-        setFlat(game, x, y, core::kOtherImage);
+        setFlat(city, x, y, core::kOtherImage);
       }
     }
   }
@@ -115,7 +115,7 @@ void colourByAccess(GameState& game, int view) {
 }  // namespace
 
 void applyOverlayView(Stage& stage) {
-  GameState& game = stage.game;
+  core::GameState& game = stage.game;
   if (game.overlayView == 0) {
     sim::evolveResidences(game);
     restoreBuildings(game);

@@ -31,16 +31,16 @@ constexpr Lane kLaneAlongY{core::kRoadAlongY, {0, 1}, 0};
 constexpr Lane kLaneAlongX{core::kRoadAlongX, {1, 0}, 2};
 
 /// Straight road with straight road on both sides: a walker gets at least one cell to walk.
-bool isLaneCell(const GameState& game, const Lane& lane, int x, int y) {
-  return game.tileImage(x, y) == lane.image &&
-         game.tileImage(x - lane.along.x, y - lane.along.y) == lane.image &&
-         game.tileImage(x + lane.along.x, y + lane.along.y) == lane.image;
+bool isLaneCell(const core::City& city, const Lane& lane, int x, int y) {
+  return city.tileImage(x, y) == lane.image &&
+         city.tileImage(x - lane.along.x, y - lane.along.y) == lane.image &&
+         city.tileImage(x + lane.along.x, y + lane.along.y) == lane.image;
 }
 
-int countLaneCells(const GameState& game, const Lane& lane) {
+int countLaneCells(const core::City& city, const Lane& lane) {
   int count = 0;
   for (int y = 1; y < core::kLastCell; ++y) {
-    for (int x = 1; x < core::kLastCell; ++x) count += isLaneCell(game, lane, x, y);
+    for (int x = 1; x < core::kLastCell; ++x) count += isLaneCell(city, lane, x, y);
   }
   return count;
 }
@@ -59,9 +59,9 @@ bool takeLaneCell(GameState& game, const Lane& lane, int count, platform::Random
   return false;
 }
 
-int lowestFreeSlot(const GameState& game) {
+int lowestFreeSlot(const core::Walkers& walkers) {
   int slot = 1;
-  while (game.walkerActive[slot] != 0) ++slot;
+  while (walkers.walkerActive[slot] != 0) ++slot;
   return slot;
 }
 

@@ -10,7 +10,7 @@
 
 namespace map {
 
-/// The spawn tick: starts at most one walker on a road along y and one on a road along x. Says whether
+/// The spawn tick: starts at most one walker on a road along y and one on a road along x. Returns whether
 /// one was started, so that the caller switches the step timer on.
 bool spawnWalkers(core::GameState& game, platform::Random& random);
 /// The step tick: moves all walkers, draws them (DrawTiles4), and clears the slots that ended.

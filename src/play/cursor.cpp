@@ -114,7 +114,7 @@ void trackCursor(Scene& scene) {
   }
   snapPointer(game);
   if (game.cursorPxX == game.lastCellPxX && game.cursorPxY == game.lastCellPxY) return;
-  // cursorHidden is not asked here: beyond the limits a pointer that moves within one snapped
+  // cursorHidden is not checked here: beyond the limits a pointer that moves within one snapped
   // position puts the diamond out, and one that reaches another shows it again.
   placeLines(scene);
   game.lastCellPxX = game.cursorPxX;

@@ -7,7 +7,7 @@ namespace play {
 
 /// Finds the cell at pixel (x, y) of the map surface into cellX, cellY. A coordinate for which no
 /// band of cells holds the pixel (in the corners outside the map's diamond) keeps its value.
-void pickCell(core::GameState& game, double x, double y);
+void pickCell(core::Hand& hand, double x, double y);
 
 /// The lowest and the highest coordinate at which the footprint in hand is inside the play
 /// square.
@@ -15,9 +15,9 @@ struct AnchorRange {
   double low;
   double high;
 };
-AnchorRange anchorRange(const core::GameState& game, const core::ProgramValues& values);
+AnchorRange anchorRange(const core::Hand& hand, const core::ProgramValues& values);
 
 /// Moves cellX, cellY to the nearest anchor inside the play square.
-void clampCell(core::GameState& game, const core::ProgramValues& values);
+void clampCell(core::Hand& hand, const core::ProgramValues& values);
 
 }  // namespace play

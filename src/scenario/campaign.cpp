@@ -72,7 +72,7 @@ void handCityOver(play::Scene& scene, const std::string& folder) {
 
 bool missionGoalMet(const core::City& city, int mission) {
   const core::Goal& goal = core::mission(mission).goal;
-  // A debt counts only where gold is asked for.
+  // A debt counts only where gold is required.
   const auto reached = [](double has, int asked) { return asked == 0 || has >= asked; };
   return reached(city.population, goal.people) && reached(city.food, goal.food) &&
          reached(city.gold, goal.gold) && reached(city.churchRating, goal.religion) &&

@@ -5,7 +5,7 @@
 
 namespace scenario {
 
-/// One second of the script. Says whether the demonstration is over.
+/// One second of the script. Returns whether the demonstration is over.
 bool demonstrationTick(play::Scene& scene);
 
 }  // namespace scenario

@@ -6,7 +6,7 @@
 namespace scenario {
 
 /// Shows the outcome of the run, and lets `wayBack` (Timer9, Timer11 or Timer15) lead to the menu a
-/// second later. Says which timers live on until then.
+/// second later. outcome.cpp lists the timers that keep running until then.
 void endRun(play::Scene& scene, const char* outcome, int wayBack);
 
 }  // namespace scenario

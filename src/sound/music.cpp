@@ -16,27 +16,27 @@ constexpr int kAutoCycle = 658;
 
 }  // namespace
 
-bool chooseMusic(core::GameState& game, MusicChoice choice) {
-  game.musicAuto = 0;
+bool chooseMusic(core::Music& music, MusicChoice choice) {
+  music.musicAuto = 0;
   if (choice == MusicChoice::off) return false;
-  game.musicTrack = choice == MusicChoice::autoPlay
-                        ? 0
-                        : static_cast<int>(choice) - static_cast<int>(MusicChoice::track1) + 1;
+  music.musicTrack = choice == MusicChoice::autoPlay
+                         ? 0
+                         : static_cast<int>(choice) - static_cast<int>(MusicChoice::track1) + 1;
   return true;
 }
 
-int countMusicSecond(core::GameState& game) {
-  game.musicAuto += 1;
-  if (game.musicTrack != 0) return game.musicAuto == 1 ? game.musicTrack : 0;
+int countMusicSecond(core::Music& music) {
+  music.musicAuto += 1;
+  if (music.musicTrack != 0) return music.musicAuto == 1 ? music.musicTrack : 0;
   for (int track = 1; track <= 5; ++track) {
-    if (kSchedule[track - 1].autoStart == game.musicAuto) return track;
+    if (kSchedule[track - 1].autoStart == music.musicAuto) return track;
   }
   return 0;
 }
 
-void closeMusicCycle(core::GameState& game) {
-  const int cycle = game.musicTrack == 0 ? kAutoCycle : kSchedule[game.musicTrack - 1].ownCycle;
-  if (game.musicAuto >= cycle) game.musicAuto = 0;
+void closeMusicCycle(core::Music& music) {
+  const int cycle = music.musicTrack == 0 ? kAutoCycle : kSchedule[music.musicTrack - 1].ownCycle;
+  if (music.musicAuto >= cycle) music.musicAuto = 0;
 }
 
 }  // namespace sound
