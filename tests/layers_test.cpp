@@ -71,7 +71,7 @@ std::string faultOf(const std::string& file, const std::string& header, bool ofP
   return "";
 }
 
-TEST(Layers, EveryIncludeKeepsTheOrderOfTheHouse) {
+TEST(Layers, EveryIncludeKeepsTheOrder) {
   const fs::path root = fs::path(VELLMORAN_SOURCE_DIR) / "src";
   int includes = 0;
   for (const auto& entry : fs::recursive_directory_iterator(root)) {

@@ -13,7 +13,7 @@
 #include "core/new_game.h"
 #include "play/preferences.h"
 #include "shell/script_runner.h"
-#include "sim/coverage.h"
+#include "sim/city.h"
 #include "sim/food.h"
 #include "sim/residences.h"
 #include "sim/treasury.h"
@@ -27,31 +27,23 @@ using Numbers = std::map<std::string, std::vector<long>>;
 
 /// People in one residence with so many services.
 long housing(int tax, int services, double food) {
-  auto city = std::make_unique<core::City>();
-  city->taxRate = tax;
-  city->food = food;
-  for (int n = 0; n < 4; ++n) {
-    const auto [x, y] = core::kBlock[static_cast<std::size_t>(n)];
-    city->tileCode(x + 9, y + 9) = static_cast<core::Code>(core::kResidenceCode + n);
-    for (int k = 1; k <= services; ++k) city->cellService[k](x + 9, y + 9) = 1;
-  }
-  sim::rebuildCoverage(*city);
-  sim::rebuildCapacity(*city);
-  return std::lround(city->housingCapacity);
+  sim::City city;
+  city.game.taxRate = tax;
+  city.game.food = food;
+  city.block(core::kResidenceCode, 9, 9);
+  city.serve(9, 9, services);
+  return std::lround(city.game.housingCapacity);
 }
 
 /// The most people that a residence with this picture at its anchor holds.
 long mostPeopleIn(const core::Look& look) {
   long most = 0;
-  for (long people = 1; people <= 100; ++people) {
-    auto city = std::make_unique<core::City>();
-    for (int n = 0; n < 4; ++n) {
-      const auto [x, y] = core::kBlock[static_cast<std::size_t>(n)];
-      city->tileCode(x + 9, y + 9) = static_cast<core::Code>(core::kResidenceCode + n);
-      city->cellCapacity(x + 9, y + 9) = static_cast<double>(people) / 4;
-    }
-    sim::evolveResidences(*city);
-    if (city->tileImage(9, 9) == look.images[0]) most = people;
+  for (int people = 1; people <= 100; ++people) {
+    sim::City city;
+    city.block(core::kResidenceCode, 9, 9);
+    city.game.cellCapacity.fill(people / 4.0);
+    sim::evolveResidences(city.game);
+    if (city.game.tileImage(9, 9) == look.images[0]) most = people;
   }
   return most;
 }

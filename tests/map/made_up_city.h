@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdlib>
-#include <cstring>
 
 #include "core/new_game.h"
 #include "core/vocabulary.h"
 #include "map/renderer.h"
+#include "platform/pixels.h"
 
 namespace map {
 
@@ -22,10 +22,6 @@ inline Color colorOf(int picture) {
   if (picture == 20) return platform::kBlack;
   return {static_cast<std::uint8_t>(40 + 3 * picture), static_cast<std::uint8_t>(250 - picture),
           static_cast<std::uint8_t>(picture % 7 * 30)};
-}
-
-inline bool same(const Surface& a, const Surface& b) {
-  return std::memcmp(a.row(0), b.row(0), a.stride() * static_cast<std::size_t>(a.height())) == 0;
 }
 
 /// Calls use(x, y) for every pixel of a box, or every cell of a square.
@@ -65,12 +61,12 @@ class MadeUpCity {
     }
   }
   /// What the surface must show when everything is repainted.
-  Surface paintedAnew() {
+  Surface repainted() {
     platform::Canvas fresh(1984, 1056);
-    Stage anew{game, values, pictures, fresh};
+    Stage full{game, values, pictures, fresh};
     markCells(game, 0, core::kLastCell);
-    DrawTiles32(anew, kFlatCells);
-    DrawTiles2(anew, kTallCells);
+    DrawTiles32(full, kFlatCells);
+    DrawTiles2(full, kTallCells);
     unmarkCells(game, 0, core::kLastCell);
     game.blitCount = 0;
     return fresh.surface().clone();

@@ -17,7 +17,7 @@ Rect drawnBox(const Surface& surface) {
   return box;
 }
 
-TEST(Renderer, BoxesLieWhereTheCellsAre) {
+TEST(Renderer, BoxesAreWhereTheCellsAre) {
   for (const auto& [x, y] : {std::pair{0, 0}, {30, 0}, {0, 30}, {30, 30}, {17, 4}}) {
     const int left = 32 * (x - y) + 960;
     const int top = 16 * (x + y);
@@ -96,16 +96,16 @@ class Views : public ::testing::Test {
 
 TEST_F(Views, NoViewLeavesRemainsOfAnother) {
   show(0);
-  city.canvas.surface() = city.paintedAnew();
+  city.canvas.surface() = city.repainted();
   for (const int view : {1, 2, 2, 0, 3, 1, 4, 5, 0, 5, 0}) {
     show(view);
     eachPixel(32, 32, [&](int x, int y) { ASSERT_EQ(city.game.cellDirty(x, y), 0); });
     const Surface shown = city.canvas.surface().clone();
-    EXPECT_TRUE(same(shown, city.paintedAnew())) << "view " << view;
+    EXPECT_TRUE(same(shown, city.repainted())) << "view " << view;
   }
 }
 
-TEST_F(Views, ColoursTellWhoIsReachedAndFieldsTheMonth) {
+TEST_F(Views, ColoursShowWhoIsReachedAndFieldsTheMonth) {
   const auto image = [&](int x, int y) { return city.game.tileImage(x, y); };
   show(core::kSchool);
   show(core::kMarket);

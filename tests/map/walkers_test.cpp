@@ -105,7 +105,7 @@ TEST_F(Walkers, LeaveNoTraceAmongTallCells) {
     lay(6, 9, 20, 9);
     lay(24, 3, 24, 20);
     lay(10, 12, 10, 18);
-    const Surface before = city.paintedAnew();
+    const Surface before = city.repainted();
     city.canvas.surface() = before.clone();
     int started = 0;
     for (int tick = 0; tick < 400 || active() > 0; ++tick) {
@@ -141,7 +141,7 @@ TEST(Pictures, ThatAreMissingOrOfAnotherSizeAreNamed) {
 }
 
 // Walkers are painted over these corners where no rule repaints what is in front of them; a
-// corner over the building's own anchor needs no care, as the anchor is asked for.
+// corner over the building's own anchor needs no care, as the anchor is checked.
 TEST(Pictures, OfTallCellsLeaveTheirUpperCornersFree) {
   PictureSet set;
   std::string error;

@@ -1,4 +1,5 @@
-// The panels of saved games: names that no file can have, and files that are no games.
+// Saved games: names that no file can have, files that are no games, and the city that is kept when the
+// window or the page goes.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -6,6 +7,7 @@
 #include "platform/pixels.h"
 #include "platform/timers.h"
 #include "shell/script_runner.h"
+#include "shell/unsaved_city.h"
 #include "store/record.h"
 
 namespace {
@@ -109,6 +111,34 @@ TEST(SavedGames, AreLoadedOnABareScreenThatTakesNoPress) {
   waits(5000);
   play.run("choose File1 town.sav; click cmdload");
   waits(499);
+}
+
+bool keeps(script::Play& play) {
+  return shell::keepUnsavedCity(play.program());
+}
+
+TEST(UnsavedCity, IsTheOpenCityAndAnOrdinarySavedGame) {
+  script::Play play("open-play");
+  play.run("press @15,15 @15,16; advance 3000");
+  ASSERT_TRUE(keeps(play));
+  play.run("press @15,17");
+  ASSERT_TRUE(keeps(play));
+  const std::string city = play("grid tileCode");
+  play.restart();
+  play.run("click mainload; advance 500; choose File1 " + std::string(shell::kUnsavedCity));
+  play.run("click cmdload; advance 600");
+  EXPECT_EQ(play("grid tileCode"), city);
+}
+
+TEST(UnsavedCity, IsNoneInTheMenuTheDemonstrationAndTheLoadPanel) {
+  script::Play play;
+  EXPECT_FALSE(keeps(play));
+  play.run("click mainload; advance 500");
+  EXPECT_FALSE(keeps(play));
+  play.restart();
+  play.run("click mainhelp; advance 9000");
+  EXPECT_FALSE(keeps(play));
+  EXPECT_EQ(play.file(shell::kUnsavedCity), "");
 }
 
 }  // namespace

@@ -1,11 +1,16 @@
-#include "store/record.h"
-
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <clocale>
+#include <filesystem>
 #include <limits>
 
+#include "store/progress.h"
+#include "store/record.h"
 #include "store/records.h"
+#include "support/temp_folder.h"
 
 namespace store {
 namespace {
@@ -18,7 +23,7 @@ using support::split;
 using support::textOf;
 using support::withField;
 
-TEST(Record, EveryNumberStandsAtItsPlacesInTheHeadAndComesBack) {
+TEST(Record, EveryNumberIsAtItsPlacesInTheHeadAndComesBack) {
   auto record = newGame();
   GameState& g = record->game;
   // clang-format off
@@ -62,7 +67,7 @@ TEST(Record, EveryNumberStandsAtItsPlacesInTheHeadAndComesBack) {
   EXPECT_EQ(g.gold, -1500.25);
 }
 
-TEST(Record, GridsStandInTheirOrdersAndComeBackCellByCell) {
+TEST(Record, GridsAreInTheirOrdersAndComeBackCellByCell) {
   auto record = newGame();
   GameState& g = record->game;
   g.tileCode(1, 35) = 7, g.cellServices(1, 35) = 5, g.buildingId(1, 35) = 8;
@@ -85,25 +90,35 @@ TEST(Record, GridsStandInTheirOrdersAndComeBackCellByCell) {
   const auto line = [&](int number) { return lines.at(static_cast<std::size_t>(number - 1)); };
   const auto cell = [&](int x, int y) { return line(12 + 36 * x + y); };
   EXPECT_EQ(cell(1, 35), "7,0,1,0,0,0,0,5,1,0,8");
-  EXPECT_EQ(cell(2, 35) + cell(4, 35), "0,0,0,0,1,0,0,0,0,1,00,0,0,1,0,0,0,0,0,0,0");
-  EXPECT_EQ(cell(3, 35) + cell(5, 35), "0,1,0,0,0,0,1,0,0,0,00,0,0,0,0,1,0,0,0,0,0");
+  EXPECT_EQ(cell(2, 35), "0,0,0,0,1,0,0,0,0,1,0");
+  EXPECT_EQ(cell(3, 35), "0,1,0,0,0,0,1,0,0,0,0");
+  EXPECT_EQ(cell(4, 35), "0,0,0,1,0,0,0,0,0,0,0");
+  EXPECT_EQ(cell(5, 35), "0,0,0,0,0,1,0,0,0,0,0");
   EXPECT_EQ(cell(0, 1), ",0,0,0,0,0,0,0,,0,");
   EXPECT_EQ(cell(35, 0), "89,-1.5,0,0,0,0,0,0,0,0,70000");
   const auto history = [&](int column, int row) {
     return line(1308 + (column + 4) * 18 + row - 1);
   };
-  EXPECT_EQ(history(-4, 1) + history(50, 18) + history(3, 14) + history(0, 2), "-12.577");
-  EXPECT_EQ(line(2298) + line(2299) + line(2307), "10");
+  EXPECT_EQ(history(-4, 1), "-1");
+  EXPECT_EQ(history(50, 18), "2.5");
+  EXPECT_EQ(history(3, 14), "77");
+  EXPECT_EQ(history(0, 2), "");
+  EXPECT_EQ(line(2298), "1");
+  EXPECT_EQ(line(2299), "0");
+  EXPECT_EQ(line(2307), "");
   for (int k = 1; k <= 5; ++k) {
     const auto layer = [&](int x, int y) { return 2308 + ((k - 1) * 961 + y * 31 + x) * 2; };
-    EXPECT_EQ(line(layer(30, k)) + line(layer(30, k) + 1), "10");
-    EXPECT_EQ(line(layer(k, 30)) + line(layer(k, 30) + 1), "01");
+    EXPECT_EQ(line(layer(30, k)), "1");
+    EXPECT_EQ(line(layer(30, k) + 1), "0");
+    EXPECT_EQ(line(layer(k, 30)), "0");
+    EXPECT_EQ(line(layer(k, 30) + 1), "1");
   }
 
   const auto back = std::make_unique<Record>();
   ASSERT_EQ(faultOf(text, *back), "");
   EXPECT_EQ(textOf(*back), text);
-  EXPECT_FALSE(back->game.tileCode(0, 1).isSet() || back->game.history(0, 2).isSet());
+  EXPECT_FALSE(back->game.tileCode(0, 1).isSet());
+  EXPECT_FALSE(back->game.history(0, 2).isSet());
 }
 
 TEST(Record, NumbersAreTakenInEveryFormThatPeopleWriteAndInNoOther) {
@@ -162,7 +177,7 @@ TEST(Record, OnlyTheNumberAndTheOrderOfFieldsCount) {
 }
 
 // Mission, size, month, history, tool, speeds, tax, demolition flag; codes, flags and service counts;
-// what stands twice is looked at twice.
+// what is there twice is checked twice.
 TEST(Record, ValuesByWhichTheProgramWouldLeaveItsTablesAreRefused) {
   const auto lines = split(textOf(*newGame()));
   const auto record = std::make_unique<Record>();
@@ -208,9 +223,125 @@ TEST(Record, ApplyingItChangesWhatItHoldsAndNothingElse) {
   ASSERT_EQ(faultOf(fresh, *record), "");
   applyRecord(*record, g, running->values);
   EXPECT_EQ(textOf(*running), fresh) << "what was never given stays empty";
-  EXPECT_EQ(g.tileImage(3, 3) + g.walkerX[10] + g.lastPaletteTool + g.scrollX, 74);
-  EXPECT_EQ(g.tileCode(-1, 0) + g.roadService[5](31, 30) + g.history(5, 19), 11);
+  EXPECT_EQ(g.tileImage(3, 3), 37);
+  EXPECT_EQ(g.walkerX[10], 4);
+  EXPECT_EQ(g.lastPaletteTool, 1);
+  EXPECT_EQ(g.scrollX, 32);
+  EXPECT_EQ(g.tileCode(-1, 0), 7);
+  EXPECT_EQ(g.roadService[5](31, 30), 1);
+  EXPECT_EQ(g.history(5, 19), 3);
   EXPECT_EQ(running->values.gNewMap, 1);
+}
+
+TEST(RecordFile, WhatCannotBeReadOrWrittenIsNamedWithWhatIsWrong) {
+  const support::TempFolder folder;
+  const auto game = newGame();
+  std::string error;
+  std::filesystem::create_directory(folder / "folder.sav");
+  support::putFile(folder / "empty.sav", "");
+  support::putFile(folder / "huge.sav", textOf(*game));
+  std::filesystem::resize_file(folder / "huge.sav", std::uintmax_t{1} << 30);
+  for (const auto& [name, fault] :
+       {std::pair{"folder.sav", "folder.sav: is a folder"},
+        {"huge.sav", "huge.sav: is too large"},
+        {"empty.sav", "empty.sav: ends early, in line 1"},
+        {"a\x1B\xFF.sav", "a\xEF\xBF\xBD\xEF\xBF\xBD.sav: "}}) {  // is missing
+    EXPECT_EQ(readGame(folder / name, error), nullptr);
+    EXPECT_TRUE(error.starts_with(fault)) << error;
+  }
+  EXPECT_FALSE(saveGame(folder / std::string(300, 'n'), game->game, game->values, error));
+  EXPECT_EQ(error, std::string(100, 'n') + "...: the name is too long");
+  EXPECT_FALSE(saveGame(folder / "nowhere/town.sav", game->game, game->values, error));
+  EXPECT_EQ(error, "town.sav: its folder does not exist");
+}
+
+constexpr const char* kFresh = "1,0,0,0,0,0,0,0,0,0,0,0\r\n";
+
+TEST(RecordFile, ACommaLocaleChangesNothing) {
+  const support::TempFolder folder;
+  support::putFile(folder / "comma",
+                   "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3;3\n"
+                   "END LC_NUMERIC\n");
+  // It complains of the categories that are missing, and makes the locale all the same.
+  const std::string make = "localedef -c -i " + (folder / "comma") + " " + (folder / "xx_XX");
+  ASSERT_NE(std::system((make + " >/dev/null 2>/dev/null").c_str()), -1);
+  auto game = newGame();
+  game->game.gold = 1234567.5;
+  const std::string text = textOf(*game);
+  const pid_t child = fork();
+  if (child == 0) {
+    setenv("LOCPATH", folder.path().c_str(), 1);
+    char number[16];
+    if (setlocale(LC_NUMERIC, "xx_XX") == nullptr) _exit(1);
+    if (std::snprintf(number, sizeof number, "%.1f", .5) != 3 || number[1] != ',') _exit(2);
+    const auto back = std::make_unique<Record>();
+    if (textOf(*game) != text || faultOf(text, *back) != "") _exit(3);
+    _exit(back->game.gold == 1234567.5 ? 0 : 4);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+}
+
+TEST(Progress, IsOneLineOfTwelveNumbersThatAreCarriedUnchanged) {
+  const support::TempFolder folder;
+  Progress progress;
+  std::string error;
+  for (const char* text : {kFresh, "11,-2147483648,1,0,0,0,0,0,0,0,0.5,1\r\n"}) {
+    support::putFile(folder / "config.dat", text);
+    ASSERT_TRUE(readProgress(folder.path(), progress, error)) << error;
+    ASSERT_TRUE(writeProgress(folder.path(), progress, error)) << error;
+    EXPECT_EQ(support::bytesOf(folder / "config.dat"), text);
+  }
+  EXPECT_EQ(progress.reachedMission, 11);
+  EXPECT_EQ(progress.puzzleDone[10], 1);
+  // As an editor may leave it.
+  for (const char* text : {"3,0,0,0,0,0,0,0,0,0,0,1", "3,0,0,0,0,0,0,0,0,0,0,1\n\r\n\n"}) {
+    support::putFile(folder / "config.dat", text);
+    ASSERT_TRUE(readProgress(folder.path(), progress, error)) << error;
+    EXPECT_EQ(progress.reachedMission, 3);
+    EXPECT_EQ(progress.puzzleDone[10], 1);
+  }
+}
+
+TEST(Progress, ADamagedFileIsKeptUnderAnotherNameAndReported) {
+  const support::TempFolder folder;
+  int count = 0;
+  const std::string tail = ",0,0,0,0,0,0,0,0,0,0", end = "\r\n";
+  for (const std::string& text :
+       {std::string(), "1,0" + tail + ",", "1" + tail + end, "1,0,0" + tail + end, "1" + tail,
+        "1" + tail + ",", "0,0" + tail + end, "12,0" + tail + end, ",0" + tail + end,
+        "1.5,0" + tail + end, "1,0.5" + tail + end, "1,2147483648" + tail + end, "1,x" + tail + end,
+        "1;0" + tail + end}) {
+    support::putFile(folder / "config.dat", text);
+    Progress untouched;
+    untouched.reachedMission = 7;
+    std::string error, notice;
+    EXPECT_FALSE(readProgress(folder.path(), untouched, error)) << text;
+    EXPECT_TRUE(error.starts_with("config.dat: ")) << error;
+    EXPECT_EQ(untouched.reachedMission, 7);
+
+    EXPECT_TRUE(prepareProgress(folder.path(), notice)) << text;
+    const std::string kept =
+        ++count == 1 ? "config.dat.damaged" : "config.dat.damaged." + std::to_string(count);
+    EXPECT_NE(notice.find("is kept as " + kept + ","), std::string::npos) << notice;
+    EXPECT_EQ(support::bytesOf(folder / kept), text);
+    EXPECT_EQ(support::bytesOf(folder / "config.dat"), kFresh);
+  }
+}
+
+TEST(Progress, AMissingFileIsMadeAndReportedOnlyWhereSomebodyPlayed) {
+  const support::TempFolder folder;
+  std::string notice = "old";
+  EXPECT_TRUE(prepareProgress(folder.path(), notice));
+  EXPECT_EQ(notice, "");
+  EXPECT_EQ(support::bytesOf(folder / "config.dat"), kFresh);
+  std::filesystem::remove(folder / "config.dat");
+  support::putFile(folder / handOverFile(10), "");
+  EXPECT_TRUE(prepareProgress(folder.path(), notice));
+  EXPECT_TRUE(notice.starts_with("config.dat: ")) << notice;
+  EXPECT_FALSE(prepareProgress(folder / "nowhere", notice));
+  EXPECT_EQ(notice, "config.dat: its folder does not exist");
 }
 
 }  // namespace
