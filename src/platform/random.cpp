@@ -4,6 +4,7 @@ namespace platform {
 
 namespace {
 
+// The generator is SplitMix64: a state that grows by this odd step, and a mix of it as the draw.
 constexpr std::uint64_t kStep = 0x9E3779B97F4A7C15u;
 
 // Spreads every bit of x over the whole word; one to one.
@@ -40,8 +41,8 @@ void Random::feed(double u) {
   fed_.push_back(u);
 }
 
-// The clock only ever adds an even number, so while it does not move the state advances in odd
-// steps and takes all of its values before it repeats.
+// The clock, where there is one, is mixed in before each draw. It only ever adds an even number, so
+// while it does not move the state advances in odd steps and takes all of its values before it repeats.
 std::uint64_t Random::next() {
   if (clock_ != nullptr) state_ += 2 * scramble(clock_->ticks());
   state_ += kStep;

@@ -1,6 +1,5 @@
 #include "platform/files.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <utility>
 
 #include "platform/desktop/system_error.h"
@@ -15,6 +15,8 @@
 namespace platform {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 bool fail(std::string& error, const std::string& path, std::string_view what) {
   error = path.empty() ? "(no name)" : path;
@@ -88,28 +90,25 @@ bool setAside(const std::string& path, std::string& to, std::string& error) {
 
 std::vector<std::string> listFiles(const std::string& folder, std::string_view ending) {
   std::vector<std::string> names;
-  DIR* const list = opendir(folder.c_str());
-  if (list == nullptr) return names;
-  while (const dirent* entry = readdir(list)) {
-    const std::string_view name = entry->d_name;
-    if (!name.ends_with(ending)) continue;
-    struct stat status {};
-    if (fstatat(dirfd(list), entry->d_name, &status, 0) != 0) continue;
-    if (S_ISREG(status.st_mode)) names.emplace_back(name);
+  std::error_code failed;
+  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+       entry.increment(failed)) {
+    std::string name = entry->path().filename().string();
+    std::error_code unknown;
+    if (name.ends_with(ending) && entry->is_regular_file(unknown)) names.push_back(std::move(name));
   }
-  closedir(list);
   std::sort(names.begin(), names.end());
   return names;
 }
 
 bool fileExists(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  std::error_code unknown;
+  return fs::is_regular_file(path, unknown);
 }
 
 bool folderWritable(const std::string& folder) {
-  struct stat status {};
-  return stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+  std::error_code unknown;
+  return fs::is_directory(folder, unknown) &&
          faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
@@ -118,11 +117,12 @@ bool makeFolders(const std::string& folder, std::string& error) {
   do {
     end = folder.find('/', end + 1);
     const std::string part = folder.substr(0, end);
-    struct stat status {};
-    if (mkdir(part.c_str(), 0700) == 0) continue;
+    if (mkdir(part.c_str(), 0700) == 0) continue;  // nobody else may look in, not even for a moment
     const int reason = errno;
-    if (stat(part.c_str(), &status) != 0) return fail(error, part, systemError(reason));
-    if (!S_ISDIR(status.st_mode)) return fail(error, part, "is not a folder");
+    std::error_code unknown;
+    if (fs::is_directory(part, unknown)) continue;
+    if (fs::exists(part, unknown)) return fail(error, part, "is not a folder");
+    return fail(error, part, systemError(reason));
   } while (end != std::string::npos);
   return true;
 }

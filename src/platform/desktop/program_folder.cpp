@@ -1,11 +1,11 @@
 #include "platform/program_folder.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 
 #include "platform/desktop/system_error.h"
 #include "platform/files.h"
@@ -18,11 +18,6 @@ namespace {
 std::string pathVariable(const char* name) {
   const char* value = std::getenv(name);
   return value != nullptr && value[0] == '/' ? value : "";
-}
-
-bool isFolder(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 std::string userDataFolder() {
@@ -44,7 +39,10 @@ std::string executableFolder() {
 
 bool findProgramFolder(std::string& folder, std::string& error) {
   folder = executableFolder();
-  if (!folder.empty() && isFolder(folder + "/data") && folderWritable(folder)) return true;
+  std::error_code unknown;
+  if (!folder.empty() && std::filesystem::is_directory(folder + "/data", unknown) &&
+      folderWritable(folder))
+    return true;
   const std::string data = userDataFolder();
   if (data.empty()) {
     error = "there is no home folder to keep them in";

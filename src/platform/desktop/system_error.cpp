@@ -34,7 +34,7 @@ constexpr Meaning kMeanings[] = {
     {ENOMEM, "there is not enough memory"},
     {ENXIO, "is not an ordinary file"},
     {ENODEV, "is not an ordinary file"},
-    {EXDEV, "it lies on another disk"},
+    {EXDEV, "it is on another disk"},
     {ESTALE, "it is gone from the network disk"},
 };
 
