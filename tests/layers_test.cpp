@@ -50,7 +50,7 @@ bool callsInexact(const std::string& line) {
 // What is wrong with the include of `header` in `file` (a path below src/); empty when nothing is.
 std::string faultOf(const std::string& file, const std::string& header, bool ofProject) {
   const int level = levelOf(file.substr(0, file.find('/')));
-  if (level < 0) return "lies in no layer";
+  if (level < 0) return "is in no layer";
   if (!ofProject) {
     if (header.starts_with("SDL") && !file.starts_with("platform/sdl/")) {
       return "only platform/sdl/ talks to SDL";

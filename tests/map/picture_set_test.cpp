@@ -170,7 +170,7 @@ TEST_P(RealPictures, OfBackdropsLeaveThePlaySquareAlone) {
 }
 
 TEST_P(RealPictures, OfWaterRunIntoOneAnother) {
-  // From right to left; each lies 122 left and 61 below the one before.
+  // From right to left; each is 122 left and 61 below the one before.
   const Surface& water = mask(53);
   const Surface* diamonds[] = {&tile(53), &water, &water, &mask(22), &water, &water, &water};
   int overlapping = 0;

@@ -173,7 +173,7 @@ TEST_F(DeskRules, ATextBoxSelectsByKeysAndPointerAndGoesThroughTheClipboard) {
   desk_.buttonDown({.shift = true});
   EXPECT_EQ(desk_.selection(), (Selection{7, 3}));
 
-  // A long text moves only as far as its caret asks for.
+  // A long text moves only as far as its caret needs.
   desk_.focusOn(kEntry, Desk::Caret::atEnd);
   desk_.type(std::string(40, 'm'));
   const int shift = desk_.textShift();

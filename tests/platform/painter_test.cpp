@@ -109,7 +109,7 @@ TEST_F(Painting, OnlyWhatChangedIsPaintedDrawingWaitsForTheRefreshAndLinesAreAbo
   EXPECT_EQ(screen_.pixel(600, 149), kGreen) << "two pixels wide";
   EXPECT_EQ(screen_.pixel(600, 150), kGreen);
   EXPECT_NE(screen_.pixel(600, 148), kGreen);
-  EXPECT_NE(screen_.pixel(60, 150), kGreen) << "the panel lies over it";
+  EXPECT_NE(screen_.pixel(60, 150), kGreen) << "the panel is over it";
   form_[kMap].place.width = 600;
   paint();
   EXPECT_NE(screen_.pixel(600, 150), kGreen) << "beyond the picture";

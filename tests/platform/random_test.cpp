@@ -11,7 +11,7 @@ namespace platform {
 namespace {
 
 // A clock on which no time passes between any two draws.
-struct StandingClock : Clock {
+struct StoppedClock : Clock {
   std::int64_t milliseconds() override { return 0; }
   std::uint64_t ticks() override { return 123456789; }
 };
@@ -42,9 +42,9 @@ void expectUniformAndIndependent(Random& one, Random& other) {
 }
 
 TEST(Random, DrawsAreUniformAndIndependentHoweverTheClockRuns) {
-  StandingClock standing;
+  StoppedClock stopped;
   VirtualClock counting;
-  Random atOneMoment(&standing), oneTickApart(&counting), first(nullptr, 1), next(nullptr, 2);
+  Random atOneMoment(&stopped), oneTickApart(&counting), first(nullptr, 1), next(nullptr, 2);
   for (Random* random : {&atOneMoment, &oneTickApart, &first}) {
     expectUniformAndIndependent(*random, *random);
   }

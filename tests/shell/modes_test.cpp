@@ -28,7 +28,7 @@ const Mode kModes[] = {
     {"saved game", "click mainload; advance 500; choose File1 town.sav; click cmdload", kQuit},
 };
 
-/// What a player could tell the first month by: the whole state as a saved game would hold it, and the
+/// What distinguishes the first month: the whole state as a saved game would hold it, and the
 /// picture. The ground of a saved game is left out: it is generated again at every load, and rolled twice
 /// when the menu still remembers a new map from the game before.
 std::string firstMonth(Play& play, const Mode& mode) {

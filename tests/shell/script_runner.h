@@ -1,5 +1,5 @@
 // Plays scripts as tests. A script is made of the driver's commands, one a line or several with "; "
-// between them; each must be answered with ok. These words stand for several commands or for a check:
+// between them; each must be answered with ok. These words are short for several commands or for a check:
 //
 //   click gmmenu, savegame                   several clicks; key and hover as well
 //   press @15,15 @16,15                      presses in the middle of these cells, wherever the map
