@@ -1,6 +1,7 @@
 // PNG files in and out of surfaces.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,19 @@ namespace platform {
 /// file's name and what is wrong in `error`, when the file is missing, damaged, larger than 4096 x 4096
 /// or no whole number of units wide and high.
 bool readPng(const std::string& path, Surface& into, std::string& error, int scale = 1);
+
+/// Reads an opaque picture, as readPng does, while the caller goes on with other work.
+class PngAhead {
+ public:
+  explicit PngAhead(const std::string& path, int scale = 1);
+  ~PngAhead();
+  /// Waits for the picture and moves it into `into`, once. False as for readPng.
+  bool take(Surface& into, std::string& error);
+
+ private:
+  struct Reading;
+  std::unique_ptr<Reading> reading_;
+};
 
 /// Reads a picture with binary transparency into two surfaces of its size: `onWhite` with the
 /// transparent pixels white, `onBlack` with them black. Alpha of 128 and more counts as opaque.

@@ -60,12 +60,13 @@ void Program::openGame() {
 }
 
 void Program::openMenu() {
-  std::string error;
-  if (!services_.assets.readMenuBackground(error)) return endWith(error);
+  services_.assets.beginMenuBackground();
   auto menu = std::make_unique<MenuScreen>(*this);
   MenuScreen& opened = *menu;
   open(std::move(menu));
   opened.load();
+  std::string error;
+  if (!ended_ && !services_.assets.finishMenuBackground(error)) endWith(error);
 }
 
 void Program::end(int exitStatus) {

@@ -1,10 +1,20 @@
 #include "shell/services.h"
 
-#include "platform/png.h"
 #include "play/game_controls.h"
 #include "shell/menu_controls.h"
 
 namespace shell {
+
+namespace {
+
+bool fits(const std::string& path, const platform::Surface& surface, platform::Size largest,
+          std::string& error) {
+  if (surface.width() <= largest.width && surface.height() <= largest.height) return true;
+  error = path + ": the picture is larger than its place";
+  return false;
+}
+
+}  // namespace
 
 bool ImageSet::load(const std::string& folder, const char* name, platform::Size largest,
                     std::string& error) {
@@ -12,10 +22,7 @@ bool ImageSet::load(const std::string& folder, const char* name, platform::Size 
   platform::Surface surface;
   const std::string path = folder + "/" + name + ".png";
   if (!platform::readPng(path, surface, error, scale_)) return false;
-  if (surface.width() > largest.width || surface.height() > largest.height) {
-    error = path + ": the picture is larger than its place";
-    return false;
-  }
+  if (!fits(path, surface, largest, error)) return false;
   images_.emplace(name, std::move(surface));
   return true;
 }
@@ -30,12 +37,26 @@ bool ImageSet::load(std::span<const platform::ControlDesign> table, const std::s
 }
 
 bool ImageSet::loadMenu(const std::string& folder, std::string& error) {
-  constexpr platform::Size kScreen{platform::kScreenWidth, platform::kScreenHeight};
-  return load(folder, kMenuBackground, kScreen, error) && load(menuControls(), folder, error);
+  return load(menuControls(), folder, error);
 }
 
 bool ImageSet::loadGame(const std::string& folder, std::string& error) {
   return load(play::gameControls(), folder, error);
+}
+
+void ImageSet::beginMenuBackground(const std::string& folder) {
+  if (!images_.try_emplace(kMenuBackground).second) return;
+  menuPath_ = folder + "/" + kMenuBackground + ".png";
+  menuAhead_ = std::make_unique<platform::PngAhead>(menuPath_, scale_);
+}
+
+bool ImageSet::finishMenuBackground(std::string& error) {
+  if (menuAhead_ == nullptr) return true;
+  platform::Surface& surface = images_[kMenuBackground];
+  const bool good = menuAhead_->take(surface, error);
+  menuAhead_.reset();
+  constexpr platform::Size kScreen{platform::kScreenWidth, platform::kScreenHeight};
+  return good && fits(menuPath_, surface, kScreen, error);
 }
 
 void ImageSet::dropMenuBackground() {
@@ -49,6 +70,7 @@ const platform::Surface* ImageSet::find(std::string_view name) const {
 
 bool Assets::open(const std::string& dataFolder, std::string& error) {
   folder_ = dataFolder + (scale() == 1 ? "/pictures" : "/pictures/2x");
+  beginMenuBackground();
   font = platform::Font::open(dataFolder + "/font.otf", error, scale());
   const std::string panels = folder_ + "/panel";
   return font != nullptr && skin.load(panels, error, scale()) && images.loadMenu(panels, error);
@@ -78,8 +100,12 @@ bool Assets::readBackdrop(double mode, std::string& error) {
   return map::loadBackdrop(pictures, backdrop, folder_, error);
 }
 
-bool Assets::readMenuBackground(std::string& error) {
-  return images.loadMenu(folder_ + "/panel", error);
+void Assets::beginMenuBackground() {
+  images.beginMenuBackground(folder_ + "/panel");
+}
+
+bool Assets::finishMenuBackground(std::string& error) {
+  return images.finishMenuBackground(error);
 }
 
 void Assets::dropMenuBackground() {
@@ -87,7 +113,7 @@ void Assets::dropMenuBackground() {
 }
 
 bool Assets::load(const std::string& dataFolder, std::string& error) {
-  if (!open(dataFolder, error)) return false;
+  if (!open(dataFolder, error) || !finishMenuBackground(error)) return false;
   while (!complete()) {
     if (!readNext(error)) return false;
   }

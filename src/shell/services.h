@@ -15,6 +15,7 @@
 #include "platform/display.h"
 #include "platform/font.h"
 #include "platform/media.h"
+#include "platform/png.h"
 #include "platform/random.h"
 #include "platform/skin.h"
 
@@ -29,7 +30,10 @@ class ImageSet {
   /// is there already is kept. False, with the file's name and what is wrong in `error`.
   bool loadMenu(const std::string& folder, std::string& error);
   bool loadGame(const std::string& folder, std::string& error);
-  /// Lets go of the picture behind the menu, the largest, which the menu then loads again.
+  /// The picture behind the menu is the largest, so it is read beside other work: it is empty from
+  /// `begin` to `finish`, and in memory until it is dropped. False as above.
+  void beginMenuBackground(const std::string& folder);
+  bool finishMenuBackground(std::string& error);
   void dropMenuBackground();
   /// Null where there is none of that name.
   const platform::Surface* find(std::string_view name) const;
@@ -41,6 +45,8 @@ class ImageSet {
             std::string& error);
 
   int scale_;
+  std::string menuPath_;
+  std::unique_ptr<platform::PngAhead> menuAhead_;
   std::map<std::string, platform::Surface, std::less<>> images_;
 };
 
@@ -65,9 +71,10 @@ class Assets {
   bool readNext(std::string& error);
   /// Reads the backdrop of a mode, if it has one, in place of the last. False as for `open`.
   bool readBackdrop(double mode, std::string& error);
-  /// At a scale of 2 the picture behind the menu, six megabytes, is in memory only while the menu is
-  /// open. False as for `open`.
-  bool readMenuBackground(std::string& error);
+  /// The picture behind the menu is read while the menu's window opens. At a scale of 2 it has six
+  /// megabytes, and is in memory only while the menu is open. False as for `open`.
+  void beginMenuBackground();
+  bool finishMenuBackground(std::string& error);
   void dropMenuBackground();
   /// Reads everything at once but the backdrops.
   bool load(const std::string& dataFolder, std::string& error);

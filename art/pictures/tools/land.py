@@ -4,6 +4,8 @@ The surface is 1984 x 1056; the north corner of cell (x, y) lies at
 (992 + 32 (x - y), 32 + 16 (x + y)).  Backdrops are ORed over the void, so every
 pixel of a playable cell must meet black.  At scale 2 all of that is doubled."""
 import os
+import struct
+import zlib
 import numpy as np
 from PIL import Image
 from iso import *
@@ -32,12 +34,35 @@ def square(size, s=1):
     return out
 
 
-def save_rgb(name, img, s=1):
-    """Write data/pictures/NAME.png or data/pictures/2x/NAME.png, 8 bit RGB."""
+def bytes_of(img):
     if img.dtype != np.uint8:
         img = np.round(np.clip(img, 0, 1) * 255).astype(np.uint8)
+    return np.ascontiguousarray(img[..., :3])
+
+
+def save_rgb(name, img, s=1):
+    """Write data/pictures/NAME.png or data/pictures/2x/NAME.png, 8 bit RGB."""
     os.makedirs(os.path.dirname(path(name, s)), exist_ok=True)
-    Image.fromarray(np.ascontiguousarray(img[..., :3]), 'RGB').save(path(name, s), compress_level=9)
+    Image.fromarray(bytes_of(img), 'RGB').save(path(name, s), compress_level=9)
+
+
+def save_large(name, img, s=1):
+    """The same, quicker to read: every pixel refers to the one on its left, which takes two thirds of
+    the time of the usual mixture and is as small. The player waits for these pictures."""
+    img = bytes_of(img)
+    height, width = img.shape[:2]
+    rows = np.ones((height, 1 + 3 * width), np.uint8)  # a row begins with the number of its filter
+    rows[:, 1:4] = img[:, 0]
+    rows[:, 4:] = (img[:, 1:] - img[:, :-1]).reshape(height, -1)
+    packer = zlib.compressobj(9, zlib.DEFLATED, 15, 9, zlib.Z_FILTERED)
+    parts = [(b'IHDR', struct.pack('>IIBBBBB', width, height, 8, 2, 0, 0, 0)),
+             (b'IDAT', packer.compress(rows.tobytes()) + packer.flush()),
+             (b'IEND', b'')]
+    os.makedirs(os.path.dirname(path(name, s)), exist_ok=True)
+    with open(path(name, s), 'wb') as file:
+        file.write(b'\x89PNG\r\n\x1a\n')
+        for kind, data in parts:
+            file.write(struct.pack('>I', len(data)) + kind + data + struct.pack('>I', zlib.crc32(kind + data)))
 
 
 def strays(img):
@@ -49,10 +74,9 @@ def strays(img):
 
 def save_land(name, img, s=1):
     """The same for a landscape: specks alone in the black go."""
-    if img.dtype != np.uint8:
-        img = np.round(np.clip(img, 0, 1) * 255).astype(np.uint8)
+    img = bytes_of(img)
     img[strays(img)] = 0
-    save_rgb(name, img, s)
+    save_large(name, img, s)
 
 
 def load_rgb(name, s=1):

@@ -250,7 +250,7 @@ def main():
         img = unsharp(img, np.ones(img.shape[:2], bool), .35, .8)
         pictures.append(img)
     for s, img in zip(SCALES, wordmark.paint(pictures, SCALES)):
-        save_rgb('panel/menu', img, s)
+        save_large('panel/menu', img, s)
     print('menu: %.0f s' % (time.time() - t))
 
 

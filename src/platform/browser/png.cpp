@@ -36,6 +36,21 @@ bool readPng(const std::string& path, Surface& into, std::string& error, int sca
   return true;
 }
 
+// The pack gives its pictures without delay, and there is one thread only.
+struct PngAhead::Reading {
+  std::string path;
+  int scale;
+};
+
+PngAhead::PngAhead(const std::string& path, int scale)
+    : reading_(std::make_unique<Reading>(Reading{path, scale})) {}
+
+PngAhead::~PngAhead() = default;
+
+bool PngAhead::take(Surface& into, std::string& error) {
+  return readPng(reading_->path, into, error, reading_->scale);
+}
+
 bool readPngPair(const std::string& path, Surface& onWhite, Surface& onBlack, std::string& error,
                  int scale) {
   PackedPicture picture;

@@ -15,7 +15,9 @@ namespace platform {
 
 namespace {
 
+// The server reads one band of the buffer while the next is made.
 constexpr int kBufferBytes = 4 << 20;
+constexpr int kBands = 8;
 
 bool refused = false;
 
@@ -149,12 +151,13 @@ bool X11Window::present(Scaler& scaler, const Surface& picture, std::span<const 
   const int width = scaler.place().right();
   if (width > x11.image->width && !x11.makeBuffer(width)) return false;
   for (const Rect& part : parts) {
-    for (int top = part.top; top < part.bottom(); top += x11.image->height) {
-      const int height = std::min(x11.image->height, part.bottom() - top);
+    const int lines = std::max(1, x11.image->height / kBands);
+    for (int top = part.top; top < part.bottom(); top += lines) {
+      const int height = std::min(lines, part.bottom() - top);
       x11.presentBand(scaler, picture, {part.left, top, part.width, height});
+      XFlush(x11.display);
     }
   }
-  XFlush(x11.display);
   return true;
 }
 
