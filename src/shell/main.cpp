@@ -1,6 +1,7 @@
 // The game itself: a window, real sound, the machine's clock.
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -94,6 +95,8 @@ int main(int argc, char** argv) {
   const std::string data =
       platform::fileExists(beside + "/font.otf") ? beside : home + "/" VELLMORAN_DATA_FROM_PROGRAM;
   platform::SdlDisplay display(data + "/pictures/icon/128.png", data + "/font.otf");
+  std::optional<shell::Assets> assets(display.likelyScale());
+  assets->begin(data);
   std::string folder;
   std::string error;
   std::string folderFault;
@@ -101,8 +104,8 @@ int main(int argc, char** argv) {
     folderFault = "Games cannot be saved: " + error;  // and played all the same
     std::fprintf(stderr, "vellmoran: %s\n", folderFault.c_str());
   }
-  shell::Assets assets(display.scale());
-  if (!assets.open(data, error)) {
+  if (assets->scale() != display.scale()) assets.emplace(display.scale());
+  if (!assets->open(data, error)) {
     display.message("Error", error.c_str());
     return 1;
   }
@@ -112,8 +115,8 @@ int main(int argc, char** argv) {
   platform::Random random(&realClock, realClock.ticks());
   platform::Random walkerRandom(&realClock, realClock.ticks());
   platform::SdlClipboard clipboard;
-  shell::Services services{clock,  random, walkerRandom, media,      display,
-                           assets, folder, {},           &clipboard, folderFault};
+  shell::Services services{clock,   random, walkerRandom, media,      display,
+                           *assets, folder, {},           &clipboard, folderFault};
   shell::Program program(services);
   Window window(display, clock, program);
   services.letEventsIn = [&window] { window.takeEvents(0); };

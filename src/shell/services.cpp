@@ -68,9 +68,13 @@ const platform::Surface* ImageSet::find(std::string_view name) const {
   return found == images_.end() ? nullptr : &found->second;
 }
 
-bool Assets::open(const std::string& dataFolder, std::string& error) {
+void Assets::begin(const std::string& dataFolder) {
   folder_ = dataFolder + (scale() == 1 ? "/pictures" : "/pictures/2x");
   beginMenuBackground();
+}
+
+bool Assets::open(const std::string& dataFolder, std::string& error) {
+  begin(dataFolder);
   font = platform::Font::open(dataFolder + "/font.otf", error, scale());
   const std::string panels = folder_ + "/panel";
   return font != nullptr && skin.load(panels, error, scale()) && images.loadMenu(panels, error);

@@ -12,7 +12,6 @@
 #include "platform/sdl/hush.h"
 #include "platform/sdl/message_window.h"
 #include "platform/sdl/session_end.h"
-#include "platform/sdl/window_manager.h"
 #include "platform/wrap_columns.h"
 
 namespace platform {
@@ -50,7 +49,7 @@ Size windowedSize(Size desktop) {
 }  // namespace
 
 SdlDisplay::SdlDisplay(std::string icon, std::string font)
-    : icon_(std::move(icon)), font_(std::move(font)) {}
+    : server_(lookAtServer()), icon_(std::move(icon)), font_(std::move(font)) {}
 
 SdlDisplay::~SdlDisplay() {
   closeWindow();
@@ -81,7 +80,7 @@ bool SdlDisplay::startVideo() {
     stopVideo();
     return false;
   }
-  if (driver == "x11") managed_ = windowManagerRuns();
+  if (driver == "x11") managed_ = server_.managed;
   return true;
 }
 

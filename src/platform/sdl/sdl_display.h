@@ -7,6 +7,7 @@
 
 #include "platform/display.h"
 #include "platform/scaler.h"
+#include "platform/sdl/window_manager.h"
 #include "platform/sdl/x11_window.h"
 
 struct SDL_Rect;
@@ -18,7 +19,7 @@ namespace platform {
 class SdlDisplay : public Display {
  public:
   /// Paths of a PNG for the window, where a missing one is no fault, and of the font for messages.
-  /// Nothing is opened yet.
+  /// No window is opened yet.
   SdlDisplay(std::string icon, std::string font);
   ~SdlDisplay() override;
   SdlDisplay(const SdlDisplay&) = delete;
@@ -26,6 +27,9 @@ class SdlDisplay : public Display {
 
   /// The scale to draw at, which the desktop at the first call decides for good.
   int scale();
+  /// What that will be, as far as it can be seen without starting the video system: wrong where the
+  /// monitors differ, or without an X server.
+  int likelyScale() const { return scaleFor(server_.screen); }
 
   /// 0 x 0 where there is no display at all.
   Size size() override;
@@ -65,6 +69,7 @@ class SdlDisplay : public Display {
   SDL_Rect desktop() const;
   void place();
 
+  XServer server_;
   std::string icon_;
   std::string font_;
   std::string failure_;

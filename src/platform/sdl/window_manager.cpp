@@ -16,9 +16,10 @@ int keepScreenChanges(void*, SDL_Event* event) {
 
 }  // namespace
 
-bool windowManagerRuns() {
+XServer lookAtServer() {
   Display* const display = XOpenDisplay(nullptr);
-  if (display == nullptr) return false;
+  if (display == nullptr) return {};
+  const int screen = DefaultScreen(display);
   // Every manager of today leaves a mark on the root window.
   const Atom mark = XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False);
   Atom type = None;
@@ -28,8 +29,10 @@ bool windowManagerRuns() {
   const int result = XGetWindowProperty(display, DefaultRootWindow(display), mark, 0, 1, False,
                                         XA_WINDOW, &type, &format, &count, &rest, &value);
   if (value != nullptr) XFree(value);
+  const XServer server{{DisplayWidth(display, screen), DisplayHeight(display, screen)},
+                       result == Success && count == 1};
   XCloseDisplay(display);
-  return result == Success && count == 1;
+  return server;
 }
 
 void watchScreen(SDL_Window* window) {
