@@ -6,6 +6,8 @@
 // (core/new_game.h), a saved game or a city handed over replaces them.
 #pragma once
 
+#include <array>
+
 #include "core/grid.h"
 #include "core/number.h"
 
@@ -25,7 +27,7 @@ enum Service { kMarket = 1, kSchool = 2, kTavern = 3, kChurch = 4, kDoctor = 5 }
 struct ProgramValues {
   Number gMission;    // 1..10 campaign, 11 for one moment, 15 open play, 16 demonstration, 20..29
                       // puzzles
-  Number gYear;       // calendar year, from 1715
+  Number gYear;       // calendar year, from kFirstYear (core/missions.h)
   Number gMapSize;    // side S of the play square, even, 4..28
   Number gFertility;  // food factor of farms: 1.2, 1 or 0.8
   Number gSoundOn;    // sound effects on, 1 or 0
@@ -139,42 +141,28 @@ inline double mapMargin(const ProgramValues& values) {
   return (30 - values.gMapSize) / 2;
 }
 
+/// Where the city keeps what belongs to a service, in the order of Service.
+inline constexpr std::array<CellGrid<Flag> City::*, kServices> kCoverGrids{
+    &City::marketCover, &City::schoolCover, &City::tavernCover, &City::churchCover,
+    &City::doctorCover};
+inline constexpr std::array<Number City::*, kServices> kRatings{
+    &City::marketRating, &City::schoolRating, &City::tavernRating, &City::churchRating,
+    &City::doctorRating};
+
 /// Cover grid of service k, 1..5.
 inline CellGrid<Flag>& coverGrid(City& city, int k) {
-  switch (k) {
-    case kMarket:
-      return city.marketCover;
-    case kSchool:
-      return city.schoolCover;
-    case kTavern:
-      return city.tavernCover;
-    case kChurch:
-      return city.churchCover;
-    default:
-      return city.doctorCover;
-  }
+  return city.*kCoverGrids[k - 1];
 }
 inline const CellGrid<Flag>& coverGrid(const City& city, int k) {
-  return coverGrid(const_cast<City&>(city), k);
+  return city.*kCoverGrids[k - 1];
 }
 
 /// Rating of service k, 1..5.
 inline Number& rating(City& city, int k) {
-  switch (k) {
-    case kMarket:
-      return city.marketRating;
-    case kSchool:
-      return city.schoolRating;
-    case kTavern:
-      return city.tavernRating;
-    case kChurch:
-      return city.churchRating;
-    default:
-      return city.doctorRating;
-  }
+  return city.*kRatings[k - 1];
 }
 inline const Number& rating(const City& city, int k) {
-  return rating(const_cast<City&>(city), k);
+  return city.*kRatings[k - 1];
 }
 
 }  // namespace core

@@ -96,6 +96,8 @@ const Puzzle& puzzle(int mode);
 
 /// Start gold of the demonstration.
 inline constexpr int kDemonstrationGold = 1000;
+/// The year in which every mode but the later missions begins.
+inline constexpr int kFirstYear = 1715;
 
 /// Writes what the key "GOALS" shows in the given mode. A mode without such a text (the demonstration)
 /// leaves `into` as it is.

@@ -1,5 +1,7 @@
 #include "core/new_game.h"
 
+#include "core/buildings.h"
+
 namespace core {
 
 namespace {
@@ -46,37 +48,17 @@ void resetGame(GameState& game, ProgramValues& values) {
   clearWalkers(game);
   for (int n = 1; n <= kTools; ++n) game.toolUnlocked[n] = 0;
 
-  for (Number* number : {&game.food,
-                         &game.population,
-                         &game.housingCapacity,
-                         &game.farmCount,
-                         &game.marketRating,
-                         &game.schoolRating,
-                         &game.tavernRating,
-                         &game.churchRating,
-                         &game.doctorRating,
-                         &game.taxPerTick,
-                         &game.maintenancePerTick,
-                         &game.maintenancePerMonth,
-                         &game.taxThisMonth,
-                         &game.maintenanceThisMonth,
-                         &game.constructionThisMonth,
-                         &game.tickOfMonth,
-                         &game.scratchCount,
-                         &game.buildingHousing,
-                         &game.roadNeighbourCount,
-                         &game.overlayView,
-                         &game.newsTicks,
-                         &game.hoverLabel,
-                         &game.freeWalkerSlot,
-                         &game.cellOriginX,
-                         &game.cellOriginY,
-                         &game.churchUnlocked,
-                         &game.schoolUnlocked,
-                         &game.doctorUnlocked,
-                         &game.tavernUnlocked}) {
-    *number = 0;
+  for (int k = 1; k <= kServices; ++k) rating(game, k) = 0;
+  for (const Building& building : kBuildings) {
+    if (building.unlocking.reached != nullptr) game.*building.unlocking.reached = 0;
   }
+  game.food = game.population = game.housingCapacity = game.farmCount = 0;
+  game.taxPerTick = game.maintenancePerTick = game.maintenancePerMonth = 0;
+  game.taxThisMonth = game.maintenanceThisMonth = game.constructionThisMonth = 0;
+  game.tickOfMonth = game.scratchCount = game.roadNeighbourCount = 0;
+  game.buildingHousing = game.overlayView = game.newsTicks = game.hoverLabel = 0;
+  game.cellOriginX = game.cellOriginY = 0;
+  game.freeWalkerSlot = 0;
   for (int n = 1; n <= 13; ++n) game.reserved[n] = 0;
   game.demolishFlag = 0;
   game.lastPaletteTool = 0;
@@ -90,7 +72,7 @@ void resetGame(GameState& game, ProgramValues& values) {
   game.farmAnimationOn = 1;
   game.ticksPerMonth = 25;
   game.cursorFootprint = 1;
-  game.currentTool = 8;
+  game.currentTool = kRoadTool;
   game.month = 1;
   game.nextBuildingId = 1;
   game.walkersOn = 1;

@@ -1,13 +1,18 @@
 // The controls of the game screen as plain data: one row each, from the back to the front.
 #pragma once
 
+#include <array>
 #include <span>
 
+#include "core/buildings.h"
 #include "platform/control.h"
 
 namespace play {
 
 namespace game_control {
+
+inline constexpr int kViewKeys = core::kServices + 1;  // the normal view, and one for each service
+inline constexpr int kToolKeys = core::kInfoTool - 1;  // the key of a tool is the tool less one
 
 /// Rows of gameControls(), each with its purpose. A name with [n] is the first of an array of n rows.
 enum Id : int {
@@ -21,37 +26,37 @@ enum Id : int {
   FoodS,                // food
   tarih,                // date
   // Right-hand panel.
-  Frame6,                 // side panel
-  leftpost,               // left border
-  rightpost,              // right border
-  Frame16,                // plate at the top
-  Image10,                // its picture
-  Frame17,                // view plate
-  Image11,                // its picture
-  Label8,                 // "VIEW MODE"
-  currentview,            // name of the view
-  seer,                   // [6] view keys
-  Frame15 = seer + 6,     // plate of STATUS
-  Image5,                 // its picture
-  Statusreport,           // status key
-  Frame2,                 // plate of PREFERENCES
-  Image4,                 // its picture
-  Command5,               // preferences key
-  Frame1,                 // palette
-  Image6,                 // its picture
-  Label4,                 // name of the mode
-  buildcurrent,           // tool in hand
-  buildprice,             // its price
-  namlbl,                 // inspected building
-  inform,                 // info key
-  building,               // build key
-  Command1,               // [9] tool keys
-  Frame9 = Command1 + 9,  // plate of GAME MENU
-  Image9,                 // its picture
-  gmmenu,                 // game menu key
-  Frame7,                 // plate of GOALS
-  Image7,                 // its picture
-  Label3,                 // goals key
+  Frame6,                         // side panel
+  leftpost,                       // left border
+  rightpost,                      // right border
+  Frame16,                        // plate at the top
+  Image10,                        // its picture
+  Frame17,                        // view plate
+  Image11,                        // its picture
+  Label8,                         // "VIEW MODE"
+  currentview,                    // name of the view
+  seer,                           // [kViewKeys] view keys
+  Frame15 = seer + kViewKeys,     // plate of STATUS
+  Image5,                         // its picture
+  Statusreport,                   // status key
+  Frame2,                         // plate of PREFERENCES
+  Image4,                         // its picture
+  Command5,                       // preferences key
+  Frame1,                         // palette
+  Image6,                         // its picture
+  Label4,                         // name of the mode
+  buildcurrent,                   // tool in hand
+  buildprice,                     // its price
+  namlbl,                         // inspected building
+  inform,                         // info key
+  building,                       // build key
+  Command1,                       // [kToolKeys] tool keys
+  Frame9 = Command1 + kToolKeys,  // plate of GAME MENU
+  Image9,                         // its picture
+  gmmenu,                         // game menu key
+  Frame7,                         // plate of GOALS
+  Image7,                         // its picture
+  Label3,                         // goals key
   // Info panel, over the palette.
   tileinfo,   // info panel
   Image2,     // its picture
@@ -168,6 +173,12 @@ enum Id : int {
   haber,       // banner of messages
   kCount,
 };
+
+// What tells of the services, in the order of core::Service.
+inline constexpr std::array<Id, core::kServices> kAccessLabels{marlbl, schlbl, tavlbl, chulbl,
+                                                               doclbl};
+inline constexpr std::array<Id, core::kServices> kRatingLabels{marrat, schrat, tavrat, churat,
+                                                               docrat};
 
 }  // namespace game_control
 

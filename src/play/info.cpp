@@ -9,16 +9,6 @@ namespace play {
 
 namespace {
 
-struct AccessLabel {
-  int service;
-  int control;
-};
-constexpr AccessLabel kAccessLabels[] = {{core::kMarket, ui::marlbl},
-                                         {core::kSchool, ui::schlbl},
-                                         {core::kTavern, ui::tavlbl},
-                                         {core::kChurch, ui::chulbl},
-                                         {core::kDoctor, ui::doclbl}};
-
 /// Rating of a residence's site, by the number of effect areas over its cell.
 constexpr const char* kTotals[] = {"Total:Very bad", "Total:Bad",       "Total:Neutral",
                                    "Total:Good",     "Total:Very good", "Total:Perfect"};
@@ -61,11 +51,11 @@ void writeHousing(Scene& scene, int x, int y, int image) {
 }
 
 void writeAccess(Scene& scene, int x, int y, bool residence) {
-  for (const AccessLabel& label : kAccessLabels) {
-    platform::Text& text = scene.text(label.control);
-    text.assign(core::buildingOfService(label.service).access);
+  for (int k = 1; k <= core::kServices; ++k) {
+    platform::Text& text = scene.text(ui::kAccessLabels[k - 1]);
+    text.assign(core::buildingOfService(k).access);
     text.append(":");
-    text.append(!residence ? "-" : scene.game.cellService[label.service](x, y) == 1 ? "Yes" : "No");
+    text.append(!residence ? "-" : scene.game.cellService[k](x, y) == 1 ? "Yes" : "No");
   }
 }
 

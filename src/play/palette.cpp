@@ -31,7 +31,7 @@ void takeForWork(Scene& scene, int tool) {
 
 void holdKeys(Scene& scene) {
   const int tool = scene.game.currentTool.whole();
-  for (int i = 0; i < core::kInfoTool - 1; ++i) scene.form[ui::Command1 + i].held = tool == i + 1;
+  for (int i = 0; i < ui::kToolKeys; ++i) scene.form[ui::Command1 + i].held = tool == i + 1;
   scene.form[ui::inform].held = tool == core::kInfoTool;
   scene.form[ui::building].held = tool != core::kInfoTool;
   for (int view = 0; view <= core::kServices; ++view) {

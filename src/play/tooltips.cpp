@@ -32,11 +32,6 @@ constexpr Row kRows[] = {
     {ui::buildsize, "How far it reaches each way, in cells"},
     {ui::poplbl, "How many people it can hold"},
     {ui::mailbl, "Its upkeep, in gold a month"},
-    {ui::marlbl, "Whether a market reaches it by road"},
-    {ui::chulbl, "Whether a church reaches it by road"},
-    {ui::schlbl, "Whether a school reaches it by road"},
-    {ui::doclbl, "Whether a doctor reaches it by road"},
-    {ui::tavlbl, "Whether a tavern reaches it by road"},
     {ui::totlbl, "How many services have it in their area, with or without a road"},
 
     {ui::stpop, "The people of your settlement"},
@@ -48,11 +43,6 @@ constexpr Row kRows[] = {
     {ui::stfoodpro, "The harvest that comes in at the end of the month"},
     {ui::stfoodcon, "The food that is eaten at the end of the month"},
     {ui::ststored, "The food in store"},
-    {ui::marrat, "How many of 100 residences a market reaches"},
-    {ui::schrat, "How many of 100 residences a school reaches"},
-    {ui::churat, "How many of 100 residences a church reaches"},
-    {ui::docrat, "How many of 100 residences a doctor reaches"},
-    {ui::tavrat, "How many of 100 residences a tavern reaches"},
     {ui::taxLabel, "The lower the tax, the more people a residence holds"},
     {ui::showtaxrate, "The lower the tax, the more people a residence holds"},
     {ui::taxrateminus, "Lower the tax"},
@@ -98,8 +88,13 @@ std::string describeSpeed() {
 
 void writeTooltips(platform::Form& form) {
   for (const Row& row : kRows) form[row.control].tooltip = row.text;
-  for (int n = 0; n < 6; ++n) form[ui::seer + n].tooltip = map::viewName(n);
-  for (int n = 0; n < 9; ++n) {
+  for (int k = 1; k <= core::kServices; ++k) {
+    const std::string word(core::buildingOfService(k).word);
+    form[ui::kAccessLabels[k - 1]].tooltip = "Whether a " + word + " reaches it by road";
+    form[ui::kRatingLabels[k - 1]].tooltip = "How many of 100 residences a " + word + " reaches";
+  }
+  for (int n = 0; n < ui::kViewKeys; ++n) form[ui::seer + n].tooltip = map::viewName(n);
+  for (int n = 0; n < ui::kToolKeys; ++n) {
     form[ui::Command1 + n].tooltip = describeTool(n, form[ui::Command1 + n].text);
   }
   form[ui::Label7].tooltip = form[ui::gamespeed].tooltip = describeSpeed();

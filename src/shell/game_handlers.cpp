@@ -122,8 +122,8 @@ struct ClickArray {
   void (*handler)(play::Scene&, int index);
 };
 constexpr ClickArray kClickArrays[] = {
-    {ui::seer, 6, play::chooseView},
-    {ui::Command1, 9, play::selectTool},
+    {ui::seer, ui::kViewKeys, play::chooseView},
+    {ui::Command1, ui::kToolKeys, play::selectTool},
 };
 
 /// The two panels that have a name in hand: Enter and Escape press the keys of the one in front.

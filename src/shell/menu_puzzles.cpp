@@ -47,7 +47,7 @@ void clickPuzzle(MenuScreen& menu, int row) {
   core::ProgramValues& values = menu.values();
   menu.cue(sound::kClick);
   values.gMission = core::kFirstPuzzle + row;
-  values.gYear = 1715;
+  values.gYear = core::kFirstYear;
   menu.form().hide(kPuzzleList);
   values.gMapSize = core::puzzle(values.gMission.whole()).mapSize;
   openNewGame(menu);

@@ -52,7 +52,7 @@ void clickDemonstration(MenuScreen& menu) {
   values.gMapSize = 28;
   values.gFertility = 1.2;
   values.gMission = core::kDemonstration;
-  values.gYear = 1715;
+  values.gYear = core::kFirstYear;
   openNewGame(menu);
 }
 
@@ -119,7 +119,7 @@ void cancelOpenPlay(MenuScreen& menu) {
 void startOpenPlay(MenuScreen& menu) {
   menu.cue(sound::kClick);
   menu.values().gMission = core::kOpenPlay;
-  menu.values().gYear = 1715;
+  menu.values().gYear = core::kFirstYear;
   menu.form().hide(ui::openplay);
   openNewGame(menu);
 }

@@ -94,7 +94,9 @@ void startNewGame(GameScreen& screen) {
   writeDate(scene);
   scene.form.show(ui::tileinfo);
   play::hideCursor(scene);
-  for (int n = 2; n <= 5; ++n) scene.form.hide(ui::Command1 + n);
+  for (const core::Building& building : core::kBuildings) {
+    if (building.unlocking.population > 0) scene.form.hide(ui::Command1 + building.paletteKey());
+  }
   drawNewMap(screen);
   values.gNewMap = 0;
   setGoldOfMode(scene);

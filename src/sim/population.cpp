@@ -2,14 +2,12 @@
 
 #include <cmath>
 
-#include "core/buildings.h"
-
 namespace sim {
 
 bool reachMilestone(core::City& city, int service) {
   const core::Unlocking& unlocking = core::buildingOfService(service).unlocking;
   core::Number& reached = city.*unlocking.reached;
-  if (reached != 0 || city.population < unlocking.population) return false;
+  if (reached != 0 || city.population < unlockedAt(service)) return false;
   reached = 1;
   city.toolUnlocked[unlocking.toolFlag] = 1;
   return true;

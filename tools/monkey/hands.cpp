@@ -182,7 +182,7 @@ void Hands::planInGame(driver::Session& session) {
     add("advance " + to_string(chance_.between(100, 700)));
     if (chance_.percent(50)) planStreet(session);
   } else if (kind < 15) {
-    add("click seer " + to_string(chance_.draw(6)));
+    add("click seer " + to_string(chance_.draw(core::kServices + 1)));
     add(wait());
     if (chance_.percent(70)) add("click seer 0");
   } else if (kind < 16) {
@@ -244,11 +244,13 @@ void Hands::planStreet(driver::Session& session) {
   const auto take = [this](int index) { add("click Command1 " + to_string(index)); };
   add("click building");
   for (int n = 0; n < length; ++n) press(n, 0);
-  // With all five services its residences grow to the top.
-  int services = chance_.percent(50) ? 5 : 0;
+  // With all services its residences grow to the top.
+  int services = chance_.percent(50) ? core::kServices : 0;
   for (int n = 0; n + 1 < length; n += 2) {
     for (const int aside : {1, -2}) {
-      take(services > 0 ? services-- : chance_.percent(85) ? 0 : chance_.between(1, 5));
+      take(services > 0          ? services--
+           : chance_.percent(85) ? 0
+                                 : chance_.between(1, core::kServices));
       press(n, aside);
     }
   }

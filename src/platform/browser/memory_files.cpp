@@ -4,6 +4,7 @@
 #include <map>
 
 #include "platform/browser/host.h"
+#include "platform/file_faults.h"
 #include "platform/files.h"
 #include "platform/program_folder.h"
 
@@ -17,19 +18,6 @@ std::string entered = kBrowserFolder;
 std::string whole(const std::string& path) {
   if (path == ".") return entered;
   return path.starts_with('/') ? path : entered + "/" + path;
-}
-
-bool fail(std::string& error, const std::string& path, std::string_view what) {
-  error = path.empty() ? "(no name)" : path;
-  error += ": ";
-  error += what;
-  return false;
-}
-
-bool namesFile(const std::string& path, std::string& error) {
-  if (path.find('\0') != std::string::npos) return fail(error, path.c_str(), "is no file name");
-  if (path.empty() || path.back() == '/') return fail(error, path, "the file's name is missing");
-  return true;
 }
 
 void keep(const std::string& path) {

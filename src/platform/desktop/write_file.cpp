@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/desktop/system_error.h"
+#include "platform/file_faults.h"
 #include "platform/files.h"
 
 namespace platform {
@@ -144,37 +145,30 @@ void setWriteStep(WriteStep step) {
 }
 
 bool writeFile(const std::string& path, std::string_view bytes, std::string& error) {
-  const auto fail = [&](std::string_view what) {
-    error = path.empty() ? "(no name)" : path.c_str();
-    error += ": ";
-    error += what;
-    return false;
-  };
-  if (path.find('\0') != std::string::npos) return fail("is no file name");
-  if (path.empty() || path.back() == '/') return fail("the file's name is missing");
-
+  if (!namesFile(path, error)) return false;
   std::string place = path;
-  if (const int reason = followLinks(place); reason != 0) return fail(systemError(reason));
+  if (const int reason = followLinks(place); reason != 0)
+    return fail(error, path, systemError(reason));
   struct stat old {};
   const bool replaces = stat(place.c_str(), &old) == 0;
-  if (!replaces && errno != ENOENT) return fail(systemError(errno));
-  if (replaces && S_ISDIR(old.st_mode)) return fail("a folder has this name");
-  if (replaces && !S_ISREG(old.st_mode)) return fail("is not an ordinary file");
+  if (!replaces && errno != ENOENT) return fail(error, path, systemError(errno));
+  if (replaces && S_ISDIR(old.st_mode)) return fail(error, path, "a folder has this name");
+  if (replaces && !S_ISREG(old.st_mode)) return fail(error, path, "is not an ordinary file");
   // The move over a protected file would succeed: its folder alone decides that.
   if (replaces && faccessat(AT_FDCWD, place.c_str(), W_OK, AT_EACCESS) != 0) {
-    return fail(systemError(errno));
+    return fail(error, path, systemError(errno));
   }
 
   const std::string folder = folderOf(place);
   Draft draft(folder);
   if (!mayGoOn("create") || !draft.create()) {
-    return fail(errno == ENOENT ? "its folder does not exist" : systemError(errno));
+    return fail(error, path, errno == ENOENT ? "its folder does not exist" : systemError(errno));
   }
   if ((replaces && !keepPermissions(draft.file(), old)) || !draft.write(bytes) ||
       !draft.moveTo(place)) {
-    return fail(systemError(errno));
+    return fail(error, path, systemError(errno));
   }
-  if (!flushFolder(folder)) return fail("is written, but the disk did not confirm it");
+  if (!flushFolder(folder)) return fail(error, path, "is written, but the disk did not confirm it");
   return true;
 }
 
