@@ -19,6 +19,14 @@ inline constexpr int kRoadTool = 8;
 inline constexpr int kFarmTool = 9;
 inline constexpr int kInfoTool = 10;
 
+/// The keys of the palette, from 0, have the tools in their order but for the info mode.
+constexpr int keyOfTool(int tool) {
+  return tool < kInfoTool ? tool - 1 : tool - 2;
+}
+constexpr int toolOfKey(int key) {
+  return key < kInfoTool - 1 ? key + 1 : key + 2;
+}
+
 struct CellOffset {
   int x;
   int y;
@@ -49,7 +57,7 @@ struct Unlocking {
 };
 
 struct Building {
-  int tool;     // 1..9; its key in the palette is one less
+  int tool;     // that places it
   int service;  // 1..5, which is also the number of its access view; 0 for none
   int code;     // tile code of the anchor; the other cells count up from it
   int side;     // footprint in cells
@@ -58,7 +66,7 @@ struct Building {
   int reach;    // cells each way from every cell of the building
   Look look;    // as placed
   Unlocking unlocking;
-  constexpr int paletteKey() const { return tool - 1; }
+  constexpr int paletteKey() const { return keyOfTool(tool); }
   std::string_view name;      // in the palette's captions
   std::string_view capitals;  // in the info mode
   std::string_view word;      // in a sentence

@@ -12,7 +12,7 @@ namespace play {
 namespace game_control {
 
 inline constexpr int kViewKeys = core::kServices + 1;  // the normal view, and one for each service
-inline constexpr int kToolKeys = core::kInfoTool - 1;  // the key of a tool is the tool less one
+inline constexpr int kToolKeys = core::kBuildings.size() + 1;  // buildings and demolishing
 
 /// Rows of gameControls(), each with its purpose. A name with [n] is the first of an array of n rows.
 enum Id : int {

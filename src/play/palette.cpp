@@ -31,7 +31,8 @@ void takeForWork(Scene& scene, int tool) {
 
 void holdKeys(Scene& scene) {
   const int tool = scene.game.currentTool.whole();
-  for (int i = 0; i < ui::kToolKeys; ++i) scene.form[ui::Command1 + i].held = tool == i + 1;
+  for (int i = 0; i < ui::kToolKeys; ++i)
+    scene.form[ui::Command1 + i].held = core::toolOfKey(i) == tool;
   scene.form[ui::inform].held = tool == core::kInfoTool;
   scene.form[ui::building].held = tool != core::kInfoTool;
   for (int view = 0; view <= core::kServices; ++view) {
@@ -40,7 +41,7 @@ void holdKeys(Scene& scene) {
 }
 
 void selectTool(Scene& scene, int index) {
-  const int tool = index + 1;
+  const int tool = core::toolOfKey(index);
   scene.cue(sound::kTool);
   takeForWork(scene, tool);
   scene.game.lastPaletteTool = tool;

@@ -62,7 +62,7 @@ void append(std::string& text, const char* before, double number, const char* af
 
 /// Name, price, upkeep and reach of the tool of a palette key.
 std::string describeTool(int index, std::string_view name) {
-  const int tool = index + 1;
+  const int tool = core::toolOfKey(index);
   std::string text(name);
   if (tool == core::kDemolishTool) return text + ": costs nothing and pays nothing back";
   const core::Building& building = *core::buildingOfTool(tool);
