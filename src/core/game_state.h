@@ -23,6 +23,10 @@ inline constexpr int kTools = 10;
 /// The numbers of the services, which are also those of the access views.
 enum Service { kMarket = 1, kSchool = 2, kTavern = 3, kChurch = 4, kDoctor = 5 };
 
+/// A grid for each service, k from 1 on.
+template <class T>
+using LayerGrids = Row<CellGrid<T>, 1, kServices>;
+
 /// What the menu owns: values that outlive a game and pass between the two screens.
 struct ProgramValues {
   Number gMission;    // 1..10 campaign, 11 for one moment, 15 open play, 16 demonstration, 20..29

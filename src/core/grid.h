@@ -75,8 +75,4 @@ class Table {
 template <class T>
 using CellGrid = Table<T, -10, 39, -10, 39>;
 
-/// Five grids, one for each service, k from 1 to 5.
-template <class T>
-using LayerGrids = Row<CellGrid<T>, 1, 5>;
-
 }  // namespace core

@@ -187,7 +187,7 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[mon2lbl] = month("mon2lbl", 1);
   t[mon3lbl] = month("mon3lbl", 2);
   t[mon4lbl] = month("mon4lbl", 3);
-  for (int n = 0; n < 14; ++n) {
+  for (int n = 0; n < kReportRows; ++n) {
     t[stlbl1 + n] = value("stlbl1", 0, n);
     t[stlbl2 + n] = value("stlbl2", 1, n);
     t[stlbl3 + n] = value("stlbl3", 2, n);

@@ -13,6 +13,7 @@ namespace game_control {
 
 inline constexpr int kViewKeys = core::kServices + 1;  // the normal view, and one for each service
 inline constexpr int kToolKeys = core::kBuildings.size() + 1;  // buildings and demolishing
+inline constexpr int kReportRows = 14;  // of the book that the status report shows
 
 /// Rows of gameControls(), each with its purpose. A name with [n] is the first of an array of n rows.
 enum Id : int {
@@ -87,37 +88,37 @@ enum Id : int {
   Label16,  // first line
   Label17,  // second line
   // Status report.
-  statusframe,           // status report
-  Text3,                 // outer plate
-  Command10,             // inner plate
-  Frame4,                // table
-  mon1lbl,               // heading of column 1
-  mon2lbl,               // column 2
-  mon3lbl,               // column 3
-  mon4lbl,               // column 4
-  stlbl1,                // [14] numbers of column 1
-  stlbl2 = stlbl1 + 14,  // [14] column 2
-  stlbl3 = stlbl2 + 14,  // [14] column 3
-  stlbl4 = stlbl3 + 14,  // [14] column 4
-  stpop = stlbl4 + 14,   // population
-  stnetim,               // net immigration
-  sttax,                 // taxes
-  stmaint,               // upkeep
-  stconst,               // construction
-  stnetin,               // net income
-  stfoodpro,             // food production
-  stfoodcon,             // food consumption
-  ststored,              // stored food
-  marrat,                // market rating
-  schrat,                // school rating
-  churat,                // church rating
-  docrat,                // doctor rating
-  tavrat,                // tavern rating
-  taxLabel,              // "Tax rate (%)"
-  taxrateminus,          // lower tax
-  showtaxrate,           // tax rate
-  taxrateplus,           // raise tax
-  statusclose,           // close
+  statusframe,                    // status report
+  Text3,                          // outer plate
+  Command10,                      // inner plate
+  Frame4,                         // table
+  mon1lbl,                        // heading of column 1
+  mon2lbl,                        // column 2
+  mon3lbl,                        // column 3
+  mon4lbl,                        // column 4
+  stlbl1,                         // [kReportRows] numbers of column 1
+  stlbl2 = stlbl1 + kReportRows,  // [kReportRows] column 2
+  stlbl3 = stlbl2 + kReportRows,  // [kReportRows] column 3
+  stlbl4 = stlbl3 + kReportRows,  // [kReportRows] column 4
+  stpop = stlbl4 + kReportRows,   // population
+  stnetim,                        // net immigration
+  sttax,                          // taxes
+  stmaint,                        // upkeep
+  stconst,                        // construction
+  stnetin,                        // net income
+  stfoodpro,                      // food production
+  stfoodcon,                      // food consumption
+  ststored,                       // stored food
+  marrat,                         // market rating
+  schrat,                         // school rating
+  churat,                         // church rating
+  docrat,                         // doctor rating
+  tavrat,                         // tavern rating
+  taxLabel,                       // "Tax rate (%)"
+  taxrateminus,                   // lower tax
+  showtaxrate,                    // tax rate
+  taxrateplus,                    // raise tax
+  statusclose,                    // close
   // Preferences.
   showpref,          // preferences
   prefplate1,        // outer plate

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kLegend = ui::Frame13;
 constexpr int kColumns = 4;
-constexpr int kRows = 14;
 
 struct Column {
   int heading;
@@ -42,7 +41,7 @@ void fillStatusReport(Scene& scene) {
   for (int n = 0; n < filled; ++n) {
     const int monthsBack = filled - 1 - n;
     writeHeading(scene, kColumnControls[n].heading, monthsBack);
-    for (int row = 1; row <= kRows; ++row) {
+    for (int row = 1; row <= ui::kReportRows; ++row) {
       core::setCaption(scene.text(kColumnControls[n].values + row - 1), "",
                        game.history(current - monthsBack, row));
     }
