@@ -101,7 +101,7 @@ void WalkerStep(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     scene.game.blitCount = 0;
-    map::spawnWalkers(scene.game, city().session().walkerRandom());
+    map::spawnWalkers(scene.game, scene.game, scene.game, city().session().walkerRandom());
     state.ResumeTiming();
     map::stepWalkers(scene.stage);
   }

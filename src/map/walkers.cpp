@@ -46,13 +46,14 @@ int countLaneCells(const core::City& city, const Lane& lane) {
 }
 
 /// Rolls for each lane cell in turn until one is taken; often none is, and no walker starts.
-bool takeLaneCell(GameState& game, const Lane& lane, int count, platform::Random& random) {
+bool takeLaneCell(core::Walkers& walkers, const core::City& city, const Lane& lane, int count,
+                  platform::Random& random) {
   for (int y = 1; y < core::kLastCell; ++y) {
     for (int x = 1; x < core::kLastCell; ++x) {
-      if (!isLaneCell(game, lane, x, y)) continue;
+      if (!isLaneCell(city, lane, x, y)) continue;
       if (std::floor(count * random.uniform() + 1) != 1) continue;
-      game.spawnX = x;
-      game.spawnY = y;
+      walkers.spawnX = x;
+      walkers.spawnY = y;
       return true;
     }
   }
@@ -65,60 +66,63 @@ int lowestFreeSlot(const core::Walkers& walkers) {
   return slot;
 }
 
-bool spawnOn(GameState& game, const Lane& lane, int count, platform::Random& random) {
-  if (!takeLaneCell(game, lane, count, random)) return false;
+bool spawnOn(core::Walkers& walkers, const core::City& city, const Lane& lane, int count,
+             platform::Random& random) {
+  if (!takeLaneCell(walkers, city, lane, count, random)) return false;
   const bool first = std::floor(2 * random.uniform() + 1) == 1;
-  const int slot = lowestFreeSlot(game);
-  game.freeWalkerSlot = slot;
-  game.walkerX[slot] = game.spawnX;
-  game.walkerY[slot] = game.spawnY;
-  game.walkerDir[slot] = first ? lane.firstDirection : lane.firstDirection + 1;
-  game.walkerActive[slot] = 1;
+  const int slot = lowestFreeSlot(walkers);
+  walkers.freeWalkerSlot = slot;
+  walkers.walkerX[slot] = walkers.spawnX;
+  walkers.walkerY[slot] = walkers.spawnY;
+  walkers.walkerDir[slot] = first ? lane.firstDirection : lane.firstDirection + 1;
+  walkers.walkerActive[slot] = 1;
   return true;
 }
 
 // The look ahead comes before the move, at every step: a walker ends as it enters the last straight
 // cell of its road, not at that cell's far end.
-void step(GameState& game, int slot) {
-  const WalkerDesign& design = walkerDesign(game.walkerDir[slot]);
-  const int aheadX = game.walkerX[slot] + game.walkerCellDX[slot] + design.cellStep.x;
-  const int aheadY = game.walkerY[slot] + game.walkerCellDY[slot] + design.cellStep.y;
+void step(core::Walkers& walkers, const core::City& city, int slot) {
+  const WalkerDesign& design = walkerDesign(walkers.walkerDir[slot]);
+  const int aheadX = walkers.walkerX[slot] + walkers.walkerCellDX[slot] + design.cellStep.x;
+  const int aheadY = walkers.walkerY[slot] + walkers.walkerCellDY[slot] + design.cellStep.y;
   // A file may hold a road up to the very rim of the map, beyond which there are no pictures.
-  if (!core::hasImage(aheadX, aheadY) || game.tileImage(aheadX, aheadY) != design.road) {
-    game.walkerDone[slot] = 1;
+  if (!core::hasImage(aheadX, aheadY) || city.tileImage(aheadX, aheadY) != design.road) {
+    walkers.walkerDone[slot] = 1;
   }
 
-  if (++game.walkerFrame[slot] == kFrames) game.walkerFrame[slot] = 0;
-  game.walkerPxX[slot] += design.pixelStep.x;
-  game.walkerPxY[slot] += design.pixelStep.y;
+  if (++walkers.walkerFrame[slot] == kFrames) walkers.walkerFrame[slot] = 0;
+  walkers.walkerPxX[slot] += design.pixelStep.x;
+  walkers.walkerPxY[slot] += design.pixelStep.y;
 
-  const int px = game.walkerPxX[slot];
+  const int px = walkers.walkerPxX[slot];
   if (px % kCellPixels == 0 && px / kCellPixels >= -kMostCells && px / kCellPixels <= kMostCells) {
-    game.walkerCellDX[slot] += design.cellStep.x;
-    game.walkerCellDY[slot] += design.cellStep.y;
+    walkers.walkerCellDX[slot] += design.cellStep.x;
+    walkers.walkerCellDY[slot] += design.cellStep.y;
   }
 }
 
 }  // namespace
 
-bool spawnWalkers(GameState& game, platform::Random& random) {
-  if (game.population < kFewestPeople) return false;
-  if (game.blitCount > kBusyBlits) return false;
-  game.activeWalkers = 0;
-  for (int slot = 1; slot <= kWalkers; ++slot) game.activeWalkers += game.walkerActive[slot] == 1;
-  if (game.activeWalkers > kMostWalkers) return false;
+bool spawnWalkers(core::Walkers& walkers, const core::City& city, const core::Drawing& drawing,
+                  platform::Random& random) {
+  if (city.population < kFewestPeople) return false;
+  if (drawing.blitCount > kBusyBlits) return false;
+  walkers.activeWalkers = 0;
+  for (int slot = 1; slot <= kWalkers; ++slot)
+    walkers.activeWalkers += walkers.walkerActive[slot] == 1;
+  if (walkers.activeWalkers > kMostWalkers) return false;
 
-  game.laneCount = countLaneCells(game, kLaneAlongY);
-  game.laneCount2 = countLaneCells(game, kLaneAlongX);
-  const bool alongY = spawnOn(game, kLaneAlongY, game.laneCount, random);
-  const bool alongX = spawnOn(game, kLaneAlongX, game.laneCount2, random);
+  walkers.laneCount = countLaneCells(city, kLaneAlongY);
+  walkers.laneCount2 = countLaneCells(city, kLaneAlongX);
+  const bool alongY = spawnOn(walkers, city, kLaneAlongY, walkers.laneCount, random);
+  const bool alongX = spawnOn(walkers, city, kLaneAlongX, walkers.laneCount2, random);
   return alongY || alongX;
 }
 
 void stepWalkers(Stage& stage) {
   GameState& game = stage.game;
   for (int slot = 1; slot <= kWalkers; ++slot) {
-    if (game.walkerActive[slot] == 1) step(game, slot);
+    if (game.walkerActive[slot] == 1) step(game, game, slot);
   }
   DrawTiles4(stage, kTallCells);
   for (int slot = 1; slot <= kWalkers; ++slot) {

@@ -12,7 +12,8 @@ namespace map {
 
 /// The spawn tick: starts at most one walker on a road along y and one on a road along x. Returns whether
 /// one was started, so that the caller switches the step timer on.
-bool spawnWalkers(core::GameState& game, platform::Random& random);
+bool spawnWalkers(core::Walkers& walkers, const core::City& city, const core::Drawing& drawing,
+                  platform::Random& random);
 /// The step tick: moves all walkers, draws them (DrawTiles4), and clears the slots that ended.
 void stepWalkers(Stage& stage);
 void DrawTiles4(Stage& stage, const CellGeometry& geometry);

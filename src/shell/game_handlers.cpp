@@ -49,7 +49,8 @@ void walkTick(GameScreen& s) {
   map::stepWalkers(s.scene().stage);
 }
 void spawnTick(GameScreen& s) {
-  if (map::spawnWalkers(*s.game(), s.walkerRandom())) s.timers().enable(timer::Timer6);
+  core::GameState& game = *s.game();
+  if (map::spawnWalkers(game, game, game, s.walkerRandom())) s.timers().enable(timer::Timer6);
 }
 void scriptTick(GameScreen& s) {
   if (scenario::demonstrationTick(s.scene())) endDemonstration(s);

@@ -37,7 +37,7 @@ class Walkers : public ::testing::Test {
   }
   bool spawn(std::initializer_list<double> draws) {
     for (const double u : draws) random.feed(u);
-    return spawnWalkers(city.game, random);
+    return spawnWalkers(city.game, city.game, city.game, random);
   }
   // Where the last patch of a walker towards lower x reaches over the cell ahead.
   static bool isOverhang(int px, int py, int lastX, int lastY) {
@@ -115,7 +115,8 @@ TEST_F(Walkers, LeaveNoTraceAmongTallCells) {
         EXPECT_EQ(active(), 0);
       }
       city.game.blitCount = 0;
-      if (tick < 400 && tick % 20 == 0) started += spawnWalkers(city.game, random);
+      if (tick < 400 && tick % 20 == 0)
+        started += spawnWalkers(city.game, city.game, city.game, random);
       stepWalkers(city.stage);
     }
     EXPECT_GT(started, 8);
