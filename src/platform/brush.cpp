@@ -12,15 +12,6 @@ namespace {
 constexpr Color kWithoutSkin{226, 205, 160};
 }
 
-void Brush::fillDown(const Rect& rect, Color top, Color bottom) const {
-  const Rect whole = target_.inPixels(rect);
-  const Rect area = intersection(whole, target_.inPixels(clip_));
-  for (int y = area.top; y < area.bottom(); ++y) {
-    const int percent = whole.height > 1 ? (y - whole.top) * 100 / (whole.height - 1) : 0;
-    target_.fillPixels({area.left, y, area.width, 1}, mix(top, bottom, percent));
-  }
-}
-
 void Brush::darken(const Rect& rect) const {
   const Rect area = target_.inPixels(intersection(rect, clip_));
   for (int y = area.top; y < area.bottom(); ++y) {

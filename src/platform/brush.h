@@ -9,14 +9,6 @@
 
 namespace platform {
 
-/// `percent` of the way from one colour to another.
-constexpr Color mix(Color from, Color to, int percent) {
-  const auto part = [percent](int a, int b) {
-    return static_cast<std::uint8_t>(a + (b - a) * percent / 100);
-  };
-  return {part(from.r, to.r), part(from.g, to.g), part(from.b, to.b)};
-}
-
 inline constexpr Color kInk{52, 32, 16};  // the darkest edges: a deep brown, never black
 
 class Brush {
@@ -33,8 +25,6 @@ class Brush {
   }
 
   void fill(const Rect& rect, Color color) const { target_.fill(intersection(rect, clip_), color); }
-  /// Fills with a blend from the top row's colour to the bottom row's.
-  void fillDown(const Rect& rect, Color top, Color bottom) const;
   /// Takes a quarter of the light away.
   void darken(const Rect& rect) const;
   /// A line of one unit along the inside of the rectangle.

@@ -91,14 +91,6 @@ Rect Form::onScreen(int id) const {
   return rect;
 }
 
-Rect Form::clipOnScreen(int id) const {
-  Rect rect = onScreen(id);
-  for (int p = (*this)[id].design->parent; p != kNoParent; p = (*this)[p].design->parent) {
-    rect = intersection(rect, onScreen(p));
-  }
-  return intersection(rect, kWholeScreen);
-}
-
 bool Form::shown(int id) const {
   for (int p = id; p != kNoParent; p = (*this)[p].design->parent) {
     if (!(*this)[p].visible) return false;

@@ -38,8 +38,6 @@ class Form {
 
   /// Position and size on the screen.
   Rect onScreen(int id) const;
-  /// The part of it that its parents do not cut off, on the screen.
-  Rect clipOnScreen(int id) const;
   /// Visible, and so are all that hold it.
   bool shown(int id) const;
   /// The topmost shown control at a screen pixel that takes a press; -1 for the bare screen.
