@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/browser/prediction.h"
+#include "platform/browser/picture_code.h"
 #include "platform/glyphs.h"
 #include "platform/png.h"
 #include "platform/skin.h"
@@ -40,19 +40,18 @@ bool putPicture(Bytes& into, const fs::path& data, const fs::path& name, std::st
   Bytes rgba;
   platform::Size size;
   if (!platform::readPngRgba(data / name, rgba, size, error)) return false;
-  bool opaque = true;
-  for (std::size_t i = 3; i < rgba.size(); i += 4) opaque = opaque && rgba[i] == 255;
-  const int channels = opaque ? 3 : 4;
+  const int channels = name.parent_path().filename() == "pair" ? 4 : 3;
   Bytes pixels;
   for (std::size_t i = 0; i < rgba.size(); i += 4) {
     pixels.insert(pixels.end(), &rgba[i], &rgba[i] + channels);
   }
-  platform::predict(pixels, size, channels);
+  const Bytes coded = platform::codePicture(pixels, size, channels);
   putName(into, name);
   put(into, static_cast<unsigned>(channels), 1);
   put(into, static_cast<unsigned>(size.width), 2);
   put(into, static_cast<unsigned>(size.height), 2);
-  into.insert(into.end(), pixels.begin(), pixels.end());
+  put(into, static_cast<unsigned>(coded.size()), 4);
+  into.insert(into.end(), coded.begin(), coded.end());
   return true;
 }
 

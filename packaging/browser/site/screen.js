@@ -51,16 +51,10 @@ export class Screen {
     keys.classList.toggle('over', !beside && !below);
   }
 
-  // Shows a rectangle of a picture of `width` pixels that begins at `address` of the module's memory.
-  show(memory, address, width, x, y, w, h) {
-    // Memory that grows is another memory: what pointed into it points nowhere.
-    if (this.memory !== memory.buffer || this.address !== address) {
-      this.memory = memory.buffer;
-      this.address = address;
-      const pixels = new Uint8ClampedArray(memory.buffer, address, canvas.width * canvas.height * 4);
-      this.image = new ImageData(pixels, width);
-    }
-    context.putImageData(this.image, 0, 0, x, y, w, h);
+  // Shows the pixels at `address` of the module's memory.
+  show(memory, address, x, y, width, height) {
+    const pixels = new Uint8ClampedArray(memory.buffer, address, width * height * 4);
+    context.putImageData(new ImageData(pixels, width), x, y);
   }
 
   // The pixel of the layout at a point of the page; beyond the picture the nearest one of its rim.

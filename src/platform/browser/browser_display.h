@@ -16,7 +16,7 @@ class BrowserDisplay : public Display {
   void message(const char* title, const char* text) override;
 
  private:
-  std::vector<std::uint8_t> shown_;  // the whole picture as the page wants it
+  std::vector<std::uint8_t> shown_;  // rows as the page wants them
 };
 
 }  // namespace platform

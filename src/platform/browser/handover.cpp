@@ -14,8 +14,7 @@ VELLMORAN_EXPORT("room") char* room(int size) {
 }
 
 VELLMORAN_EXPORT("addPack") int addPack(char* bytes, int size) {
-  const Handed handed(bytes, size);
-  return platform::addPack({handed.view().begin(), handed.view().end()}) ? 1 : 0;
+  return platform::addPack(Handed(bytes, size)) ? 1 : 0;
 }
 
 VELLMORAN_EXPORT("putFile") void putFile(char* path, int pathLength, char* bytes, int size) {

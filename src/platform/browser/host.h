@@ -12,9 +12,9 @@ extern "C" {
 VELLMORAN_IMPORT("milliseconds") double pageMilliseconds();
 VELLMORAN_IMPORT("ticks") double pageTicks();
 
-/// Shows a rectangle of a picture of red, green, blue, 255 bytes; `width` is that of the whole picture.
+/// Shows pixels of red, green, blue and 255 at a place of the picture.
 VELLMORAN_IMPORT("show")
-void pageShow(const std::uint8_t* pixels, int width, int x, int y, int w, int h);
+void pageShow(const std::uint8_t* pixels, int x, int y, int width, int height);
 VELLMORAN_IMPORT("message") void pageMessage(const char* title, const char* text);
 
 /// Puts text on the clipboard that other programs share.

@@ -4,34 +4,32 @@
 #include <cstring>
 
 #include "platform/browser/pack.h"
+#include "platform/browser/picture_code.h"
 
 namespace platform {
 
 namespace {
 
-bool take(const std::string& path, PackedPicture& into, std::string& error) {
-  if (takePicture(path, into)) return true;
-  error = path + ": has not come from the server";
-  return false;
+const PackedPicture* find(const std::string& path, std::string& error) {
+  const PackedPicture* const found = findPicture(path);
+  if (found == nullptr) error = path + ": has not come from the server";
+  return found;
 }
 
-/// Calls put(x, y, the bytes of the pixel) for every pixel.
-template <typename Put>
-void eachPixel(const PackedPicture& picture, Put put) {
-  const std::uint8_t* pixel = picture.pixels.data();
-  for (int y = 0; y < picture.size.height; ++y) {
-    for (int x = 0; x < picture.size.width; ++x, pixel += picture.channels) put(x, y, pixel);
-  }
+Surface surfaceOf(const PackedPicture& picture, int scale) {
+  return Surface(picture.size.width / scale, picture.size.height / scale, scale);
 }
 
 }  // namespace
 
 bool readPng(const std::string& path, Surface& into, std::string& error, int scale) {
-  PackedPicture picture;
-  if (!take(path, picture, error)) return false;
-  Surface read(picture.size.width / scale, picture.size.height / scale, scale);
-  eachPixel(picture,
-            [&](int x, int y, const std::uint8_t* p) { std::memcpy(read.row(y) + x * 3, p, 3); });
+  const PackedPicture* const picture = find(path, error);
+  if (picture == nullptr || picture->channels != 3) return false;
+  Surface read = surfaceOf(*picture, scale);
+  const auto width = static_cast<std::size_t>(picture->size.width);
+  decodePicture(picture->coded, picture->size, 3, [&](int y, const std::uint8_t* pixels) {
+    std::memcpy(read.row(y), pixels, width * 3);
+  });
   into = std::move(read);
   return true;
 }
@@ -53,15 +51,17 @@ bool PngAhead::take(Surface& into, std::string& error) {
 
 bool readPngPair(const std::string& path, Surface& onWhite, Surface& onBlack, std::string& error,
                  int scale) {
-  PackedPicture picture;
-  if (!take(path, picture, error)) return false;
-  Surface white(picture.size.width / scale, picture.size.height / scale, scale);
-  Surface black(picture.size.width / scale, picture.size.height / scale, scale);
+  const PackedPicture* const picture = find(path, error);
+  if (picture == nullptr || picture->channels != 4) return false;
+  Surface white = surfaceOf(*picture, scale);
+  Surface black = surfaceOf(*picture, scale);
   white.clear(kWhite);
-  eachPixel(picture, [&](int x, int y, const std::uint8_t* p) {
-    if (picture.channels == 4 && p[3] < 128) return;
-    std::memcpy(white.row(y) + x * 3, p, 3);
-    std::memcpy(black.row(y) + x * 3, p, 3);
+  decodePicture(picture->coded, picture->size, 4, [&](int y, const std::uint8_t* pixel) {
+    for (int x = 0; x < picture->size.width; ++x, pixel += 4) {
+      if (pixel[3] == 0) continue;
+      std::memcpy(white.row(y) + x * 3, pixel, 3);
+      std::memcpy(black.row(y) + x * 3, pixel, 3);
+    }
   });
   onWhite = std::move(white);
   onBlack = std::move(black);
