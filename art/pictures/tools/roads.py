@@ -5,8 +5,10 @@ scale 2).  A pixel of the
 road along y takes entry px + 2 py - 32 and one of the road along x entry
 2 py - px + 32, so the picture does not change at all under a shift of (2, -1)
 or (2, 1): a walker's frame, which carries its own piece of road, lands on
-stripes that match.  Bends and junctions use the same table by the distance
-from the grass corner they turn round.
+stripes that match.  At scale 2 that shift is four pixels to the side, which
+leaves room for a stone and a joint: the road is laid with setts there.  Bends
+and junctions use the same table by the distance from the grass corner they
+turn round.
 
 One thing no picture can mend: the block of a walker that goes up and left
 reaches 16 pixels into the cell ahead when it ends.  There it lies on road
@@ -17,25 +19,32 @@ from iso import *
 
 # Across the road: from this part of the width on, this colour.  Side 0 is the
 # one that the sun reaches, up and left.
-PROFILE = [
+KERBS = [
     (0.000, '6a933b'), (0.025, '557a2e'),
-    (0.055, '54452f'), (0.085, 'e9dcbf'), (0.125, 'd3c4a1'), (0.150, '75634a'),
-    # Gravel, trodden down: no hard line, two soft tracks of wheels, a little higher in the middle.
-    (0.175, '9d8f78'), (0.192, 'a69881'), (0.210, 'ac9e87'), (0.240, 'b0a28a'), (0.280, 'ada088'),
-    (0.300, 'aa9c84'), (0.318, 'a6987f'), (0.335, 'a3957c'), (0.370, 'a6987f'), (0.388, 'aa9c84'),
-    (0.410, 'aea089'), (0.440, 'b2a48c'), (0.470, 'b4a68e'), (0.530, 'b2a48c'), (0.560, 'aea088'),
-    (0.580, 'aa9c84'), (0.600, 'a5977e'), (0.618, 'a2947b'), (0.655, 'a5977e'), (0.672, 'a99b83'),
-    (0.695, 'ad9f87'), (0.760, 'aa9c85'), (0.790, 'a49680'), (0.812, '9a8c76'),
+    (0.055, '54452f'), (0.085, 'e9dcbf'), (0.125, 'd3c4a1'), (0.150, '75634a'), (0.175, None),
     (0.835, '6c5a42'), (0.860, 'd2c19b'), (0.900, 'b5a27c'), (0.925, '483a28'),
     (0.955, '557a2e'), (0.980, '6a933b'), (1.001, '6a933b')]
+# Between the kerbs colours melt into one another: two wheel tracks and a crown.
+# Stripes with edges look like planks.
+WORN = [(0.175, 'a09279'), (0.245, 'b0a28a'), (0.335, '9f917a'), (0.425, 'b2a58d'), (0.500, 'b8ab93'),
+        (0.575, 'b2a58d'), (0.665, '9f917a'), (0.755, 'b0a28a'), (0.835, 'a09279')]
+SETT = 6            # entries of the large table that a row of setts takes
 STRAIGHT = .13      # so much of an arm is straight before a bend begins: a
                     # walker's block reaches a little way into the next cell
 
-EDGES = np.array([e for e, _ in PROFILE])
+EDGES = np.array([e for e, _ in KERBS])
 STONES = np.array([rgb(c) for c in ('b3a58c', 'ab9c84', 'baac94', 'afa088', 'b8a991', 'a79981')])
 JOINT, LIT = rgb('998b75'), rgb('c5b79e')
 THRESHOLD = np.array([rgb(c) for c in ('dccfb3', 'd3c6a9', 'e1d5ba', 'd7caae')])
-COLOURS = np.array([to_lin(rgb(c)) for _, c in PROFILE])
+COLOURS = np.array([to_lin(rgb(c or WORN[0][1])) for _, c in KERBS])
+
+
+def worn(q):
+    """Colour (linear) of the road between its kerbs."""
+    at, colours = np.array([a for a, _ in WORN]), np.array([to_lin(rgb(c)) for _, c in WORN])
+    i = np.clip(np.searchsorted(at, q, 'right') - 1, 0, len(WORN) - 2)
+    t = np.clip((q - at[i]) / (at[i + 1] - at[i]), 0, 1)
+    return colours[i] + (colours[i + 1] - colours[i]) * (t * t * (3 - 2 * t))[..., None]
 
 
 def across(q, s):
@@ -43,14 +52,30 @@ def across(q, s):
     out = 0
     for k in range(8):
         qq = np.clip(q + ((k + .5) / 8 - .5) / (64 * s), 0, .9999)
-        out = out + COLOURS[np.searchsorted(EDGES, qq, 'right') - 1]
+        here = COLOURS[np.searchsorted(EDGES, qq, 'right') - 1]
+        between = (qq >= WORN[0][0]) & (qq < WORN[-1][0])
+        out = out + np.where(between[..., None], worn(qq), here)
     return out / 8
+
+
+def setts(q):
+    """Brightness of the stones at scale 2: joints between the rows and, four
+    pixels apart, within them; each row is shifted and tinted a little."""
+    entry = np.floor(q * 128).astype(int)
+    row, x = entry // SETT, np.arange(q.shape[1])
+    rnd = np.random.RandomState(5)
+    shift, tint = rnd.randint(0, 4, 40)[row], 1 + .05 * (2 * rnd.rand(40)[row] - 1)
+    joint = ((x + shift) % 4 == 0) | (entry % SETT < 2)
+    lit = ~joint & ((x + shift) % 4 == 1)
+    light = np.where(joint, .86, np.where(lit, 1.14, 1.05)) * tint
+    return np.where((q > WORN[0][0] + .01) & (q < WORN[-1][0] - .01), light, 1)[..., None]
 
 
 def table(q, s):
     """Colour of the straight road, snapped to the entries of the table."""
     n = 64 * s
-    return across((np.round(q * n - .5) + .5) / n, s)
+    q = (np.round(q * n - .5) + .5) / n
+    return across(q, s) * setts(q) if s == 2 else across(q, s)
 
 
 def turn(a, b):
