@@ -31,7 +31,7 @@ class World:
     def __init__(self, x0, y0, size, seed):
         self.x0, self.y0, self.size = x0, y0, size
         n = int(size * R)
-        j, i = np.mgrid[0:n, 0:n].astype(np.float32) + .5
+        j, i = np.mgrid[0:n, 0:n] + .5          # doubles, as are all exponentials and sines of places
         self.X, self.Y = x0 + i / R, y0 + j / R
         self.Z = np.zeros((n, n), np.float32)
         self.C = np.zeros((n, n, 3), np.float32)

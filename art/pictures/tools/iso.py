@@ -43,13 +43,15 @@ def cell_uv(w=TW, h=TH, ox=32, oy=0, dx=.5, dy=.5, s=1):
 
 
 # --------------------------------------------------------------- colour
+# Powers and exponentials are taken of doubles: of single floats their last bit depends on the
+# processor, and with it a colour here and there.
 def to_lin(c):
     c = np.asarray(c, float)
     return np.where(c <= .04045, c / 12.92, ((c + .055) / 1.055) ** 2.4)
 
 
 def to_srgb(c):
-    c = np.clip(c, 0, 1)
+    c = np.clip(np.asarray(c, float), 0, 1)
     return np.where(c <= .0031308, c * 12.92, 1.055 * c ** (1 / 2.4) - .055)
 
 
@@ -181,7 +183,7 @@ def unsharp(srgb, mask, amount=.5, sigma=.8):
 
 def grade(lin, exposure=1.0, sat=1.12, contrast=1.10, pivot=.46):
     """Linear light -> graded sRGB: exposure, shoulder, saturation, contrast."""
-    c = lin * exposure
+    c = np.asarray(lin, float) * exposure
     c = np.where(c > .7, .7 + .3 * (1 - np.exp(-(c - .7) / .3)), c)
     s = to_srgb(c)
     luma = (s * [.299, .587, .114]).sum(-1, keepdims=True)

@@ -235,7 +235,7 @@ def main():
     b = povray('menu', 0, W, H, ss, ['DomeN=%d' % dome]) * 2
     aux = povray('menu', 1, W, H, ss)
     hit, obj = (aux[..., 2] > .5).astype(np.float32), (aux[..., 1] > .5).astype(np.float32)
-    dist = aux[..., 0] * 120
+    dist = aux[..., 0].astype(float) * 120
     far = np.where(hit > 0, dist, 200.)
     line = np.clip((outline_rel(far, ss) - .035) / .05, 0, 1) * obj
     b = b * (1 - line[..., None] * .38 * np.exp(-dist / 45)[..., None])

@@ -96,6 +96,7 @@ def averaged(b, depth, obj, light, s, ss, x0, y0, sat=1.06, contrast=1.10, expos
     gnd = box_down(b * (1 - obj[..., None]), n) / np.maximum(1 - cov, 1e-6) / light
     col = grade(col, exposure, sat, contrast)
     col = unsharp(col, cov[..., 0] > .02, .45, .7)
+    gnd = np.asarray(gnd, float)
     gnd = np.where(gnd > .8, .8 + .2 * (1 - np.exp(-(gnd - .8) / .2)), gnd)
     gnd = to_srgb(gnd)
     green = np.clip((gnd[..., 1] - gnd[..., [0, 2]].max(-1) - .04) / .06, 0, 1) * np.clip(gnd[..., 1] * 6 - .6, 0, 1)
