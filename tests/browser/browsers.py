@@ -67,11 +67,14 @@ class Chromium(Browser):
     def new_page(self):
         target = self.call('Target.createTarget', url='about:blank')['targetId']
         self.page = self.call('Target.attachToTarget', targetId=target, flatten=True)['sessionId']
-        self.on('Emulation.setDeviceMetricsOverride', width=self.size[0], height=self.size[1],
-                deviceScaleFactor=self.density, mobile=self.touch)
+        self.resize(*self.size)
         if self.touch:
             self.on('Emulation.setTouchEmulationEnabled', enabled=True)
         return self.page, target
+
+    def resize(self, width, height):
+        self.on('Emulation.setDeviceMetricsOverride', width=width, height=height, deviceScaleFactor=self.density,
+                mobile=bool(self.touch))
 
     def on(self, method, **params):
         return self.call(method, session=self.page, **params)

@@ -2,8 +2,10 @@
 import scene
 from iso import *
 
+HOME = 320  # pixels of the drawing in the middle of home.png
+
 # what is drawn (Small in icon.pov), its canvas and origin, width and depth of the outline, the sizes
-DRAWINGS = [(0, 156, (78, 73), 1.1, .55, (48, 64, 128, 256, 512)),
+DRAWINGS = [(0, 156, (78, 73), 1.1, .55, (48, 64, 128, 192, 256, HOME, 512)),
             (1, 132, (66, 65), 1.8, .50, (32,)),
             (2, 110, (55, 57), 2.6, .42, (16,))]
 SS = 8
@@ -18,6 +20,15 @@ def box_to(a, n):
         j = np.arange(int(lo), min(int(np.ceil(hi)), s))
         k[i, j] = np.clip(np.minimum(j + 1, hi) - np.maximum(j, lo), 0, 1) * n / s
     return np.moveaxis(np.tensordot(k, np.moveaxis(np.tensordot(k, a, (1, 0)), 1, 0), (1, 0)), 0, 1)
+
+
+def on_sky(icon, n=512):
+    """For home screens, which cut icons to a shape of their own: opaque, what matters in the middle."""
+    out = np.linspace((.62, .76, .94), (.9, .93, .97), n)[:, None].repeat(n, 1)
+    at = (n - icon.shape[0]) // 2
+    middle = out[at:at + icon.shape[0], at:at + icon.shape[1]]
+    middle += (icon[..., :3] - middle) * icon[..., 3:]
+    return np.round(out * 255).astype(np.uint8)
 
 
 def render(parts=None):
@@ -35,4 +46,7 @@ def render(parts=None):
             out = np.concatenate([col, cov[..., None]], -1)
             out[cov < .02] = 0
             out = np.round(np.clip(out, 0, 1) * 255).astype(np.uint8)
-            save(path('icon/%d' % n), out)
+            if n == HOME:
+                save(path('icon/home'), on_sky(out / 255))
+            else:
+                save(path('icon/%d' % n), out)

@@ -21,7 +21,7 @@ const machine = new Machine();
 const store = new Store();
 const turn = new Turn(leave);
 const sound = new Sound(`./${release}`, fetchKept);
-const scale = 'menu2.pack' in sizes ? chosenScale() : 1;
+let scale = 'menu2.pack' in sizes ? chosenScale() : 1;
 let screen;
 let timer = 0;
 let ended = true;
@@ -187,6 +187,7 @@ async function leave() {
   ended = true;
   clearTimeout(timer);
   sound.closeTheme();
+  element('keys').hidden = true; // a game brought in here would not be kept
   await store.writing;
   store.close();
   say('The game goes on in another tab or window.', 'Play here', () => {
@@ -229,8 +230,12 @@ async function load() {
     bar.value = came / total;
     news.textContent = `Loading: ${(came / 1e6).toFixed(1)} of ${(total / 1e6).toFixed(1)} MB`;
   };
-  // The pictures are on their way while the program is compiled.
-  const menu = unzipped(first[1], progress).then((response) => response.arrayBuffer());
+  // The pictures are on their way while the program is compiled. Without a network those of the other
+  // size may have been kept.
+  const menu = unzipped(first[1], progress).catch(() => {
+    scale = 3 - scale;
+    return unzipped(`menu${scale}.pack`, progress);
+  }).then((response) => response.arrayBuffer());
   const { instance } = await WebAssembly.instantiateStreaming(unzipped(first[0], progress), machine.imports(page));
   machine.start(instance);
   if (!machine.call.addPack(...machine.hand(new Uint8Array(await menu)))) throw new Error('the menu is damaged');
@@ -253,6 +258,7 @@ async function open() {
     machine.call.putFile(...machine.hand(path), ...machine.hand(bytes));
     keep(path, bytes);
   });
+  element('keys').hidden = false;
   element('games').addEventListener('click', () => shelf.open());
   element('full').addEventListener('click', toggleFullScreen);
   document.addEventListener('keydown', (event) => {

@@ -24,31 +24,30 @@ export class Screen {
   }
 
   // Whole factors where they fill nine tenths of the height, else smoothly; on whole pixels of the screen.
+  // The keys of the page stand beside the picture where there is room, else below it, and never upon it.
   arrange() {
     const room = { width: Math.round(innerWidth * devicePixelRatio), height: Math.round(innerHeight * devicePixelRatio) };
-    const fits = Math.min(room.width / canvas.width, room.height / canvas.height);
-    const whole = Math.floor(fits);
-    const factor = whole * canvas.height >= 0.9 * room.height ? whole : fits;
-    const size = { width: Math.round(canvas.width * factor), height: Math.round(canvas.height * factor) };
+    let size = this.fit(room);
+    const beside = (room.width - size.width) / 2 >= 2 * KEYS_ROOM * devicePixelRatio;
+    if (!beside && !document.fullscreenElement) {
+      room.height -= KEYS_ROOM * devicePixelRatio;
+      size = this.fit(room);
+    }
     const left = Math.floor((room.width - size.width) / 2);
     const top = Math.floor((room.height - size.height) / 2);
-    canvas.classList.toggle('whole', factor === Math.floor(factor));
+    canvas.classList.toggle('whole', size.width % canvas.width === 0);
     const css = (pixels) => `${pixels / devicePixelRatio}px`;
     Object.assign(canvas.style, { left: css(left), top: css(top), width: css(size.width), height: css(size.height) });
     this.place = canvas.getBoundingClientRect();
-    this.arrangeKeys();
+    keys.classList.toggle('beside', beside);
+    keys.style.maxWidth = beside ? `${this.place.left - 16}px` : '';
   }
 
-  // Beside the picture or below it, else over its foot, seen only under the pointer.
-  arrangeKeys() {
-    const beside = this.place.left >= 2 * KEYS_ROOM;
-    const below = this.place.top >= KEYS_ROOM;
-    keys.style.flexDirection = beside ? 'column' : 'row';
-    keys.style.right = beside ? '8px' : '50%';
-    keys.style.transform = beside ? '' : 'translateX(50%)';
-    keys.style.bottom = '6px';
-    keys.style.maxWidth = beside ? `${this.place.left - 16}px` : '';
-    keys.classList.toggle('over', !beside && !below);
+  fit(room) {
+    const fits = Math.min(room.width / canvas.width, room.height / canvas.height);
+    const whole = Math.floor(fits);
+    const factor = whole * canvas.height >= 0.9 * room.height ? whole : fits;
+    return { width: Math.round(canvas.width * factor), height: Math.round(canvas.height * factor) };
   }
 
   // Shows the pixels at `address` of the module's memory.
