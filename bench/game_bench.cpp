@@ -84,15 +84,15 @@ void FullCoat(benchmark::State& state) {
   play::Scene& scene = city().scene();
   for (auto _ : state) {
     map::markCells(scene.game, 0, core::kLastCell);
-    map::DrawTiles(scene.stage, map::kTallCells);
-    map::DrawTiles32(scene.stage, map::kFlatCells);
+    map::DrawTiles(scene.stage);
+    map::DrawTiles32(scene.stage);
   }
   map::unmarkCells(scene.game, 0, core::kLastCell);
 }
 BENCHMARK(FullCoat);
 
 void TallPass(benchmark::State& state) {
-  for (auto _ : state) map::DrawTiles2(city().scene().stage, map::kTallCells);
+  for (auto _ : state) map::DrawTiles2(city().scene().stage);
 }
 BENCHMARK(TallPass);
 

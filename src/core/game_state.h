@@ -124,7 +124,8 @@ struct Demonstration {
   int demoStep = 0, demoTool = 0;
 };
 
-/// Measures of the drawing, and the copies of the current 200 ms.
+/// Measures of the drawing, which the opening notes for the driver (map/geometry.h is what drawing
+/// goes by), and the copies of the current 200 ms.
 struct Drawing {
   int drawTileWidth = 0, drawTileHeight = 0, drawBoardSize = 0, drawOffsetY = 0;
   int blitCount = 0;

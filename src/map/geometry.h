@@ -7,17 +7,21 @@ namespace map {
 
 /// The surface, at its resting place: centred on the screen.
 inline constexpr platform::Rect kRestingPlace{-592, -228, 1984, 1056};
+/// The boxes of cells: a tall cell's and, the lower half of it, a flat cell's.
+inline constexpr int kCellWidth = 64;
+inline constexpr int kTallHeight = 64;
+inline constexpr int kFlatHeight = 32;
 /// Half of a cell's diamond across and down: one step along x is (32, 16), one along y (-32, 16).
 inline constexpr int kHalfCellWidth = 32;
 inline constexpr int kHalfCellHeight = 16;
 
-/// The upper left corner of a tall cell's box of 64 x 64.
+/// The upper left corner of a tall cell's box.
 constexpr platform::Point tallOrigin(int x, int y) {
   return {kHalfCellWidth * (x - y) + 960, kHalfCellHeight * (x + y)};
 }
-/// The upper left corner of a flat cell's box of 64 x 32, the lower half of a tall cell's.
+/// The upper left corner of a flat cell's box.
 constexpr platform::Point flatOrigin(int x, int y) {
-  return {tallOrigin(x, y).x, tallOrigin(x, y).y + 2 * kHalfCellHeight};
+  return {tallOrigin(x, y).x, tallOrigin(x, y).y + kFlatHeight};
 }
 /// The middle of a cell's diamond.
 constexpr platform::Point cellCentre(int x, int y) {

@@ -122,8 +122,8 @@ void applyOverlayView(Stage& stage) {
   } else {
     colourByAccess(game, game.overlayView.whole());
   }
-  DrawTiles32(stage, kFlatCells);
-  DrawTiles2(stage, kTallCells);
+  DrawTiles32(stage);
+  DrawTiles2(stage);
   unmarkCells(game, 0, kLastScanned);
 }
 

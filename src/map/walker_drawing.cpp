@@ -64,20 +64,20 @@ void loadFrame(PictureSet& pictures, int frame) {
   }
 }
 
-void repaintCover(Stage& stage, const CellGeometry& geometry, int slot, const Cover& cover) {
+void repaintCover(Stage& stage, int slot, const Cover& cover) {
   const GameState& game = stage.game;
   const int x = game.walkerX[slot] + game.walkerCellDX[slot];
   const int y = game.walkerY[slot] + game.walkerCellDY[slot];
   for (const CellOffset& d : cover.tested()) {
     if (game.cellTall(x + d.x, y + d.y) != 1) continue;
-    repaintTallCells(stage, geometry, x + cover.first.x, y + cover.first.y);
+    repaintTallCells(stage, x + cover.first.x, y + cover.first.y);
     return;
   }
 }
 
 }  // namespace
 
-void DrawTiles4(Stage& stage, const CellGeometry& geometry) {
+void DrawTiles4(Stage& stage) {
   const GameState& game = stage.game;
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] != 1) continue;
@@ -86,12 +86,12 @@ void DrawTiles4(Stage& stage, const CellGeometry& geometry) {
   }
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] != 1) continue;
-    repaintCover(stage, geometry, slot, kWalking[game.walkerDir[slot]]);
+    repaintCover(stage, slot, kWalking[game.walkerDir[slot]]);
   }
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] != 1 || game.walkerDone[slot] != 1) continue;
     drawBlock(stage, slot, designOf(game, slot).patch);
-    repaintCover(stage, geometry, slot, kPatched[game.walkerDir[slot]]);
+    repaintCover(stage, slot, kPatched[game.walkerDir[slot]]);
   }
   stage.canvas.refresh();
 }
@@ -102,8 +102,7 @@ void removeWalkers(Stage& stage) {
     if (game.walkerActive[slot] == 1) drawBlock(stage, slot, designOf(game, slot).patch);
   }
   core::clearWalkers(game);
-  repaintTallCells(
-      stage, {game.drawTileWidth, game.drawTileHeight, game.drawOffsetY, game.drawBoardSize}, 0, 0);
+  repaintTallCells(stage, 0, 0);
 }
 
 }  // namespace map

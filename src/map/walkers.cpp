@@ -124,7 +124,7 @@ void stepWalkers(Stage& stage) {
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerActive[slot] == 1) step(game, game, slot);
   }
-  DrawTiles4(stage, kTallCells);
+  DrawTiles4(stage);
   for (int slot = 1; slot <= kWalkers; ++slot) {
     if (game.walkerDone[slot] == 1) core::clearWalker(game, slot);
   }

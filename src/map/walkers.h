@@ -16,7 +16,7 @@ bool spawnWalkers(core::Walkers& walkers, const core::City& city, const core::Dr
                   platform::Random& random);
 /// The step tick: moves all walkers, draws them (DrawTiles4), and clears the slots that ended.
 void stepWalkers(Stage& stage);
-void DrawTiles4(Stage& stage, const CellGeometry& geometry);
+void DrawTiles4(Stage& stage);
 /// Paints out every walker, clears all slots and repaints the tall cells. No refresh.
 void removeWalkers(Stage& stage);
 

@@ -1,12 +1,27 @@
 #include "play/picking.h"
 
+#include "map/geometry.h"
+
 namespace play {
 
+namespace {
+
+// Bands along the two diagonals of the surface, each as high as a diamond. Deliberate: they are three
+// pixels above the diamonds that are seen.
+constexpr int kBand = map::kFlatHeight;
+constexpr platform::Point kTop{map::flatOrigin(0, 0).x + map::kHalfCellWidth,
+                               map::flatOrigin(0, 0).y - 3};
+constexpr int kFirstAlongX = kTop.y + kTop.x / 2;
+constexpr int kFirstAlongY = kTop.y - kTop.x / 2;
+
+}  // namespace
+
 void pickCell(core::Hand& hand, double x, double y) {
-  // Bands along the two diagonals of the surface, 32 pixels apart.
-  for (int i = 0; i <= 31; ++i) {
-    if (525 + 32 * i - x / 2 <= y && y < 557 + 32 * i - x / 2) hand.cellX = i;
-    if (493 - 32 * i + x / 2 < y && y <= 525 - 32 * i + x / 2) hand.cellY = 30 - i;
+  for (int i = -1; i <= core::kBoardSize; ++i) {
+    const int alongX = kFirstAlongX + kBand * i;
+    const int alongY = kFirstAlongY + kBand * i;
+    if (i >= 0 && alongX - x / 2 <= y && y < alongX + kBand - x / 2) hand.cellX = i;
+    if (i < core::kBoardSize && alongY + x / 2 < y && y <= alongY + kBand + x / 2) hand.cellY = i;
   }
 }
 

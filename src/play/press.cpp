@@ -32,8 +32,8 @@ void closePress(Scene& scene, int tool, core::Cell cell, User user) {
 }  // namespace
 
 void redraw(Scene& scene, DrawTall drawTall) {
-  map::DrawTiles32(scene.stage, map::kFlatCells);
-  drawTall(scene.stage, map::kTallCells);
+  map::DrawTiles32(scene.stage);
+  drawTall(scene.stage);
 }
 
 void useTool(Scene& scene, int tool, core::Cell cell, User user) {

@@ -10,7 +10,7 @@ namespace play {
 /// action; a refusal is one message, and changes nothing else.
 void pressMap(Scene& scene, double x, double y);
 
-/// Who uses a tool. A press of the player serves the residence just placed more kindly.
+/// Who uses a tool. A press of the player serves the residence just placed more generously.
 enum class User { player, demonstration };
 /// What the press does once its cell is known and nothing forbids it: places or demolishes with tool
 /// 1..9.
@@ -18,7 +18,7 @@ void useTool(Scene& scene, int tool, core::Cell cell, User user);
 
 /// Redraws the dirty cells and the tall ones. `drawTall` is DrawTiles3 after a build click and after the
 /// earthquake, DrawTiles2 after every other change.
-using DrawTall = void (*)(map::Stage&, const map::CellGeometry&);
+using DrawTall = void (*)(map::Stage&);
 void redraw(Scene& scene, DrawTall drawTall = map::DrawTiles2);
 
 }  // namespace play

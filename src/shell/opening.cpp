@@ -44,7 +44,7 @@ void drawNewMap(GameScreen& screen) {
   map::readmap(scene.game, scene.values, screen.random());
   map::markCells(scene.game, 0, core::kLastCell + 1);
   drawFirstCoat(screen);
-  map::DrawTiles32(scene.stage, map::kFlatCells);
+  map::DrawTiles32(scene.stage);
   map::unmarkCells(scene.game, 0, core::kLastCell + 1);
 }
 
@@ -123,10 +123,10 @@ void prepareLoadScreen(GameScreen& screen) {
 bool openGameScreen(GameScreen& screen) {
   Scene& scene = screen.scene();
   core::GameState& game = scene.game;
-  game.drawTileWidth = 64;
-  game.drawTileHeight = 64;
-  game.drawBoardSize = 31;
-  game.drawOffsetY = 16;
+  game.drawTileWidth = map::kCellWidth;
+  game.drawTileHeight = map::kTallHeight;
+  game.drawBoardSize = core::kBoardSize;
+  game.drawOffsetY = map::kHalfCellHeight;
   scene.form.moveTo(ui::picScroll, map::kRestingPlace.left, map::kRestingPlace.top);
   game.scrollX = game.scrollY = 0;
   scene.timers.disable(timer::Timer14);
@@ -136,7 +136,7 @@ bool openGameScreen(GameScreen& screen) {
   startNewGame(screen);
   prepareLoadScreen(screen);
   // The backdrop, and before it the roofs of a city that was taken over, or the walls of a castle.
-  if (scene.values.gMission < core::kOpenPlay) map::DrawTiles2(scene.stage, map::kTallCells);
+  if (scene.values.gMission < core::kOpenPlay) map::DrawTiles2(scene.stage);
   return true;
 }
 

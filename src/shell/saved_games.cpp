@@ -91,8 +91,8 @@ void startAutoPlay(GameScreen& screen) {
 
 void drawFirstCoat(GameScreen& screen) {
   Scene& scene = screen.scene();
-  scene.form[ui::picScroll].place = map::surfacePlace(map::kTallCells);
-  map::DrawTiles(scene.stage, map::kTallCells);
+  scene.form[ui::picScroll].place = map::kRestingPlace;
+  map::DrawTiles(scene.stage);
 }
 
 void clickSaveGame(GameScreen& screen) {
@@ -158,7 +158,7 @@ void clickLoad(GameScreen& screen) {
     return;
   }
   // The file is read and checked whole before anything on the screen changes: one that is no sound game
-  // leaves the running one as it was, and a load that waits already goes on.
+  // leaves the running one as it was, and a load that waits already continues.
   std::string error;
   auto record = store::readGame(screen.folder() + "/" + *name, error);
   if (record == nullptr || !screen.readBackdrop(record->values.gMission, error)) {

@@ -36,9 +36,6 @@ class MadeUpCity {
  public:
   MadeUpCity() {
     core::resetGame(game, values);
-    game.drawTileWidth = game.drawTileHeight = 64;
-    game.drawBoardSize = core::kBoardSize;
-    game.drawOffsetY = 16;
     values.gMission = core::Number(15);
     for (const PictureFile& file : pictureFiles()) paint(file);
   }
@@ -65,8 +62,8 @@ class MadeUpCity {
     platform::Canvas fresh(1984, 1056);
     Stage full{game, values, pictures, fresh};
     markCells(game, 0, core::kLastCell);
-    DrawTiles32(full, kFlatCells);
-    DrawTiles2(full, kTallCells);
+    DrawTiles32(full);
+    DrawTiles2(full);
     unmarkCells(game, 0, core::kLastCell);
     game.blitCount = 0;
     return fresh.surface().clone();

@@ -24,14 +24,13 @@ TEST(Renderer, BoxesAreWhereTheCellsAre) {
     MadeUpCity city;
     city.put(x, y, 0, 29, 0);
     city.game.cellDirty(x, y) = 1;
-    DrawTiles32(city.stage, kFlatCells);
+    DrawTiles32(city.stage);
     EXPECT_EQ(drawnBox(city.canvas.surface()), (Rect{left + 1, top + 32, 62, 32}));
     city.put(x, y, 6, 12, 1);
     city.canvas.surface().clear();
-    DrawTiles2(city.stage, kTallCells);
+    DrawTiles2(city.stage);
     EXPECT_EQ(drawnBox(city.canvas.surface()), (Rect{left, top, 64, 64}));
   }
-  EXPECT_EQ(surfacePlace(kTallCells), (Rect{-592, -228, 1984, 1056}));
 }
 
 TEST(Renderer, FlatCellsNeedAMarkAndTallCellsNone) {
@@ -43,11 +42,11 @@ TEST(Renderer, FlatCellsNeedAMarkAndTallCellsNone) {
     city.put(x, 20, 6, 12, 1);
     city.game.cellDirty(20, x) = 1;
   }
-  DrawTiles32(city.stage, kFlatCells);
+  DrawTiles32(city.stage);
   EXPECT_EQ(drawnBox(city.canvas.surface()), (Rect{1281, 512, 62, 32}));
   EXPECT_EQ(city.game.blitCount, 2);
   EXPECT_TRUE(city.canvas.shown().empty()) << "no refresh before the tall layer";
-  DrawTiles2(city.stage, kTallCells);
+  DrawTiles2(city.stage);
   EXPECT_EQ(city.game.blitCount, 2 + 1 + 4) << "the countryside counts once, each tall cell twice";
   EXPECT_FALSE(city.canvas.shown().empty());
   EXPECT_EQ(city.canvas.surface().pixel(960 + 32, 640 + 16), colorOf(12));
@@ -59,7 +58,7 @@ TEST(Renderer, BackdropsAreOredOnceAndForAll) {
         std::tuple{10, Rect{508, 254, 965, 293}, 0}, std::tuple{7, Rect{}, 0}}) {
     MadeUpCity city;
     city.values.gMission = mission;
-    DrawTiles2(city.stage, kTallCells);
+    DrawTiles2(city.stage);
     EXPECT_EQ(drawnBox(city.canvas.surface()), box) << mission;
     EXPECT_EQ(city.game.blitCount, counted) << mission;
     EXPECT_EQ(city.canvas.shown().empty(), box.empty());

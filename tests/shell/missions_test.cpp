@@ -158,7 +158,7 @@ TEST(Puzzles, SolvedOnAFullDiskAreKept) {
 bool mapIsClean(Play& play) {
   auto& screen = static_cast<shell::GameScreen&>(*play.program().screen());
   const platform::Surface seen = play.map().clone();
-  map::DrawTiles2(screen.scene().stage, map::kTallCells);
+  map::DrawTiles2(screen.scene().stage);
   return same(seen, play.map());
 }
 

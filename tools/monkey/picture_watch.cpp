@@ -128,8 +128,8 @@ void Watch::watchSurface() {
   copy = *game();
   map::Stage stage{copy, values(), assets_.pictures, *redrawn_};
   map::markCells(copy, 0, core::kLastCell);
-  map::DrawTiles32(stage, map::kFlatCells);
-  map::DrawTiles2(stage, map::kTallCells);
+  map::DrawTiles32(stage);
+  map::DrawTiles2(stage);
   platform::Point at;
   const std::vector<Rect> except = exceptions(*game());
   const auto excepted = [&](int x, int y) {
