@@ -12,7 +12,7 @@
 
 namespace core {
 
-// Tools. 7 demolishes, 10 is the info mode; the others place a building.
+// Tools that code names. 7 demolishes, 10 is the info mode; the others place a building.
 inline constexpr int kResidenceTool = 1;
 inline constexpr int kDemolishTool = 7;
 inline constexpr int kRoadTool = 8;
@@ -71,28 +71,30 @@ struct Building {
   std::string_view capitals;  // in the info mode
   std::string_view word;      // in a sentence
   std::string_view access;    // its access view
+  const char* viewKey;        // caption of the key of its access view
+  int bookRow;                // row of the monthly book that keeps its rating
 };
 
 // clang-format off
-inline constexpr std::array<Building, 8> kBuildings{{
+inline constexpr auto kBuildings = std::to_array<Building>({
     // tool service code side price upkeep reach  look
     {  1,   0,      11,  2,   10,    0,    0,   kTent, {},
-       "House", "TENT", "residence", {}},
+       "House", "TENT", "residence", {}, nullptr, 0},
     {  2,   1,      21,  2,   40,   50,    5,   {{ 8,  9, 10, 11}, {1, 1, 1, 0}}, {},
-       "Market", "MARKET", "market", "Market access"},
+       "Market", "MARKET", "market", "Market access", "M", 10},
     {  3,   2,      31,  2,   75,   50,    6,   {{25, 31, 26, 30}, {1, 1, 1, 0}},
-       {250, 2, &City::schoolUnlocked}, "School", "SCHOOL", "school", "School access"},
+       {250, 2, &City::schoolUnlocked}, "School", "SCHOOL", "school", "School access", "S", 11},
     {  4,   3,      41,  2,   50,   50,    4,   {{44, 46, 45, 47}, {1, 1, 1, 0}},
-       {1000, 4, &City::tavernUnlocked}, "Tavern", "TAVERN", "tavern", "Tavern access"},
+       {1000, 4, &City::tavernUnlocked}, "Tavern", "TAVERN", "tavern", "Tavern access", "T", 14},
     {  5,   4,      51,  2,   60,   50,    5,   {{14, 32, 18, 15}, {1, 1, 1, 0}},
-       {100, 1, &City::churchUnlocked}, "Church", "CHURCH", "church", "Church access"},
+       {100, 1, &City::churchUnlocked}, "Church", "CHURCH", "church", "Church access", "C", 12},
     {  6,   5,       6,  1,   40,   50,    4,   {{12, 12, 12, 12}, {1, 1, 1, 1}},
-       {500, 3, &City::doctorUnlocked}, "Doctor", "DOCTOR", "doctor", "Doctor access"},
+       {500, 3, &City::doctorUnlocked}, "Doctor", "DOCTOR", "doctor", "Doctor access", "D", 13},
     {  8,   0,       7,  1,    5,    0,    0,   {{ 1,  1,  1,  1}, {0, 0, 0, 0}}, {},
-       "Road", "ROAD", "road", {}},
+       "Road", "ROAD", "road", {}, nullptr, 0},
     {  9,   0,      81,  3,   30,   20,    0,   {{13, 13, 13, 13}, {0, 0, 0, 0}}, {},
-       "Farm", "FARM", "farm", {}},
-}};
+       "Farm", "FARM", "farm", {}, nullptr, 0},
+});
 // clang-format on
 
 /// The building that a tool places; null for a tool that places none.
@@ -101,6 +103,10 @@ constexpr const Building* buildingOfTool(int tool) {
     if (building.tool == tool) return &building;
   }
   return nullptr;
+}
+/// Whether there is such a tool.
+constexpr bool isTool(int tool) {
+  return tool == kDemolishTool || tool == kInfoTool || buildingOfTool(tool) != nullptr;
 }
 /// The building of service k, 1..5.
 constexpr const Building& buildingOfService(int k) {

@@ -16,7 +16,7 @@ constexpr Size kTall{64, 64};
 constexpr Size kWalker{12, 17};
 constexpr Size kWater{288, 144};
 
-constexpr std::array<PictureFile, 65> kFiles{{
+constexpr auto kFiles = std::to_array<PictureFile>({
     // clang-format off
     { 0, pair, kFlat},            // ground
     { 1, pair, kFlat},            // road along y
@@ -84,7 +84,7 @@ constexpr std::array<PictureFile, 65> kFiles{{
     {61, pair, kTall},
     {62, tile, {965, 293}, core::Backdrop::townWalls},
     // clang-format on
-}};
+});
 
 std::string pathOf(const PictureFile& file, const std::string& folder) {
   const char* below = file.kind == pair ? "/pair/" : file.kind == mask ? "/mask/" : "/tile/";

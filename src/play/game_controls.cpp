@@ -104,8 +104,10 @@ constexpr std::array<ControlDesign, kCount> makeTable() {
   t[Image11] = wholeImage("Image11", Frame17, 145, 80);
   t[Label8] = label("Label8", Frame17, {8, 4, 129, 22}, "VIEW MODE", FontSize::pt12, Align::centre);
   t[currentview] = centred("currentview", Frame17, {8, 28, 129, 20}, "Normal view");
-  constexpr const char* kViews[] = {"N", "M", "S", "T", "C", "D"};
-  for (int n = 0; n < kViewKeys; ++n) t[seer + n] = view(n, kViews[n]);
+  t[seer] = view(0, "N");
+  for (int k = 1; k <= core::kServices; ++k) {
+    t[seer + k] = view(k, core::buildingOfService(k).viewKey);
+  }
   t[Frame15] = frame("Frame15", Frame6, {16, 184, 145, 34}, kPanel);
   t[Image5] = wholeImage("Image5", Frame15, 145, 34);
   t[Statusreport] = knob("Statusreport", Frame15, {5, 5, 135, 23}, kWideKey, "STATUS");

@@ -13,7 +13,7 @@ namespace game_control {
 
 inline constexpr int kViewKeys = core::kServices + 1;  // the normal view, and one for each service
 inline constexpr int kToolKeys = core::kBuildings.size() + 1;  // buildings and demolishing
-inline constexpr int kReportRows = 14;  // of the book that the status report shows
+inline constexpr int kReportRows = 9 + core::kServices;  // of the book, shown in the status report
 
 /// Rows of gameControls(), each with its purpose. A name with [n] is the first of an array of n rows.
 enum Id : int {
@@ -175,7 +175,7 @@ enum Id : int {
   kCount,
 };
 
-// What tells of the services, in the order of core::Service.
+// The labels of each service, in the order of core::Service.
 inline constexpr std::array<Id, core::kServices> kAccessLabels{marlbl, schlbl, tavlbl, chulbl,
                                                                doclbl};
 inline constexpr std::array<Id, core::kServices> kRatingLabels{marrat, schrat, tavrat, churat,

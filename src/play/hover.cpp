@@ -17,7 +17,7 @@ struct HoverRegion {
 };
 
 // clang-format off
-constexpr std::array<HoverRegion, 21> kRegions{{
+constexpr auto kRegions = std::to_array<HoverRegion>({
     {ui::seer + 0,     138, 155, 644, 664,  1},
     {ui::seer + 1,     138, 155, 664, 688,  2},
     {ui::seer + 2,     138, 155, 688, 712,  3},
@@ -39,7 +39,7 @@ constexpr std::array<HoverRegion, 21> kRegions{{
     {ui::Command1 + 5, 446, 468, 644, 708, 18},
     {ui::Command1 + 3, 446, 468, 718, 780, 19},
     {ui::Command1 + 6, 478, 500, 644, 780, 20},
-}};
+});
 // clang-format on
 
 }  // namespace

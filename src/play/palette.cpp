@@ -81,7 +81,7 @@ void resetPaletteAfterLoad(Scene& scene) {
 
 void showUnlockedTools(Scene& scene) {
   for (const core::Building& building : core::kBuildings) {
-    if (building.unlocking.reached == nullptr) continue;
+    if (building.unlocking.population == 0) continue;
     scene.form.setVisible(ui::Command1 + building.paletteKey(),
                           scene.game.toolUnlocked[building.unlocking.toolFlag] == 1);
   }

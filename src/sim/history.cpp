@@ -9,7 +9,7 @@ namespace sim {
 
 namespace {
 
-// After this column the book goes on in the column after the three that a new game shows first.
+// After this column the book continues in the column after the three that a new game shows first.
 constexpr int kLastHistoryColumn = 43;
 constexpr int kHistoryRestart = 4;
 constexpr int kLastScannedCell = core::kLastCell + 1;
@@ -32,15 +32,13 @@ void writeHistory(core::City& city, const core::ProgramValues& values) {
   row(7) = std::floor(harvestOfMonth(city, values));
   row(8) = 0 - std::floor(city.population / 4);
   row(9) = std::floor(city.food);
-  row(10) = city.marketRating;
-  row(11) = city.schoolRating;
-  row(12) = city.churchRating;
-  row(13) = city.doctorRating;
-  row(14) = city.tavernRating;
+  for (int k = 1; k <= core::kServices; ++k) {
+    row(core::buildingOfService(k).bookRow) = core::rating(city, k);
+  }
 }
 
 void rateServices(core::City& city, core::RecordNumbers& numbers) {
-  for (const int k : {core::kMarket, core::kTavern, core::kChurch, core::kSchool, core::kDoctor}) {
+  for (int k = 1; k <= core::kServices; ++k) {
     int with = 0;
     int without = 0;
     for (int y = 0; y <= kLastScannedCell; ++y) {

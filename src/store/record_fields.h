@@ -14,9 +14,11 @@ struct Rule {
   const char* what;  // what a message says of a value outside them, before a colon and the value
 };
 
-inline constexpr Rule kTileCode{
-    [](double v) { return isWholeWithin(v, 0, 89) && core::isTileCode(static_cast<int>(v)); },
-    "no such tile code"};
+inline constexpr Rule kTileCode{[](double v) {
+                                  return isWholeWithin(v, 0, core::kLastCode) &&
+                                         core::isTileCode(static_cast<int>(v));
+                                },
+                                "no such tile code"};
 inline constexpr Rule kFlag{[](double v) { return v == 0 || v == 1; }, "neither 0 nor 1"};
 inline constexpr Rule kServiceCount{[](double v) { return isWholeWithin(v, 0, core::kServices); },
                                     "no such number of services"};
@@ -103,7 +105,9 @@ inline constexpr NumberRule kRules[] = {
                                                                              "no such map size"}},
     {&G::month,         {[](double v) { return isWholeWithin(v, 1, 12); },   "no such month"}},
     {&G::historyIndex,  {[](double v) { return isWholeWithin(v, 1, 43); },   "no such history month"}},
-    {&G::currentTool,   {[](double v) { return isWholeWithin(v, 1, 10); },   "no such tool"}},
+    {&G::currentTool,   {[](double v) { return isWholeWithin(v, 1, 99) &&
+                                               core::isTool(static_cast<int>(v)); },
+                                                                             "no such tool"}},
     {&G::ticksPerMonth, {[](double v) { return isWholeWithin(v, 1, 1000000000); },
                                                                              "no such speed"}},
     {&G::monthLength,   {[](double v) { return isWholeWithin(v, 1, 1000000000); },

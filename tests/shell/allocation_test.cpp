@@ -66,11 +66,18 @@ TEST(Play, TenMinutesOfPressesTicksScrollsAndWalkersAllocateNothing) {
   struct Button {
     int step, first, choices;
   };
-  constexpr Button kButtons[] = {
-      {0, ui::Statusreport, 1}, {1, ui::taxrateminus, 3}, {2, ui::statusclose, 1},
-      {3, ui::Label3, 1},       {4, ui::Command21, 1},    {5, ui::seer, 6},
-      {7, ui::seer, 1},         {8, ui::inform, 1},       {10, ui::building, 1},
-      {12, ui::Command1, 9},    {15, ui::Command1, 9},    {18, ui::Command1, 1}};
+  constexpr Button kButtons[] = {{0, ui::Statusreport, 1},
+                                 {1, ui::taxrateminus, 3},
+                                 {2, ui::statusclose, 1},
+                                 {3, ui::Label3, 1},
+                                 {4, ui::Command21, 1},
+                                 {5, ui::seer, ui::kViewKeys},
+                                 {7, ui::seer, 1},
+                                 {8, ui::inform, 1},
+                                 {10, ui::building, 1},
+                                 {12, ui::Command1, ui::kToolKeys},
+                                 {15, ui::Command1, ui::kToolKeys},
+                                 {18, ui::Command1, 1}};
   platform::Form& form = session.program().screen()->form();
   std::minstd_rand chance(7);
   const auto below = [&chance](int n) {

@@ -188,7 +188,7 @@ TEST(ControlTables, ShowEveryCaptionWhole) {
         "Disaster!A terrible earthquake hit your settlement,many buildings are collapsed and 1234 "
         "people died.");
   check("bilgilabel", "Theft! 123456 golds are stolen from your treasury.");
-  for (int view = 0; view <= 5; ++view) check("currentview", map::viewName(view));
+  for (int view = 0; view <= core::kServices; ++view) check("currentview", map::viewName(view));
   for (const char* banner :
        {"Famine started,people leave your city!", "You don't have enough money",
         "Switch to normal view first", "End of demonstration"}) {

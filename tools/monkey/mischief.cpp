@@ -1,5 +1,6 @@
 #include "monkey/mischief.h"
 
+#include "core/buildings.h"
 #include "core/missions.h"
 #include "platform/files.h"
 #include "store/record.h"
@@ -85,7 +86,9 @@ std::string Mischief::enrich() {
   core::ProgramValues& values = record->values;
   game.gold = chance_.between(8000, 30000);
   game.food = chance_.between(2000, 9000);
-  for (int n = 1; n <= 4; ++n) game.toolUnlocked[n] = 1;
+  for (const core::Building& building : core::kBuildings) {
+    if (building.unlocking.toolFlag != 0) game.toolUnlocked[building.unlocking.toolFlag] = 1;
+  }
   // Backdrops and walls fit squares of one size.
   const auto fits = [&](int mission) {
     const core::Mission* now = core::missionOf(values.gMission);
