@@ -42,7 +42,7 @@ struct KingsAid {
   const char* news = nullptr;  // for the banner
 };
 
-/// What a mission that goes on takes from the city it takes over.
+/// What a mission that continues a city takes from it.
 struct HandOver {
   int food = 0;
   int gold = 0;
@@ -62,7 +62,7 @@ struct Mission {
   const char *difficulty, *mapSizeText, *fertilityText;
   int startYear;
   int judgementYear;  // judged at the roll into it; 0 for never
-  bool founds;        // a new city on new land, else the city of the mission before goes on
+  bool founds;        // a new city on new land, else that of the mission before is continued
   int gold;           // at the start of a founded city; 0 leaves that of the money choice
   HandOver handOver;
   KingsAid aid;

@@ -1,4 +1,4 @@
-// The ground of the map: a rolled meadow, the rings at the border of the play square, the void around
+// The ground of the map: a random meadow, the rings at the border of the play square, the void around
 // it, and the two front walls of the town in the missions that have them.
 #pragma once
 

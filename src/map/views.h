@@ -11,7 +11,7 @@ namespace map {
 /// marks. View 0 is also what puts the city back on the ground after a load.
 void applyOverlayView(Stage& stage);
 
-/// What the panel calls a view, 0..5.
+/// The name of a view, 0..5.
 std::string_view viewName(int view);
 
 }  // namespace map

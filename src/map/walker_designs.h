@@ -1,4 +1,4 @@
-// What the four directions of walkers have of their own.
+// The design of walkers by their direction.
 #pragma once
 
 #include <array>

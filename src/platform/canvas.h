@@ -1,4 +1,4 @@
-// A drawing surface that keeps what is drawn on it and shows it when it is told to.
+// A drawing surface that keeps what is drawn on it and shows it on refresh.
 //
 // Drawing notes the rectangles it changed; `refresh` hands them on to the painter. What has been
 // drawn and not refreshed stays off the screen until something else uncovers it. Most of what a

@@ -93,7 +93,7 @@ struct Control {
   bool held = false;  // a key that stays down
   Point from{};       // end points of a line, in pixels of its parent
   Point to{};
-  int rank = 0;                    // the higher of two siblings lies in front
+  int rank = 0;                    // the higher of two siblings is in front
   const Surface* image = nullptr;  // of an image control; at the right end of a label's line
   Canvas* canvas = nullptr;
   ListContent* list = nullptr;

@@ -96,7 +96,7 @@ class Desk {
   bool choose(int id, std::string_view entry);
 
   // For the painter.
-  int pressed() const;          // control that is held down by the pointer upon it, or -1
+  int pressed() const;          // control that is held down by the pointer on it, or -1
   int focus() const;            // text box that is typed into, or -1
   Selection selection() const;  // in it
   int textShift() const;        // pixels by which its text is pushed to the left

@@ -15,7 +15,7 @@ class Display {
   virtual ~Display() = default;
   /// Size of the display as it is now, in pixels.
   virtual Size size() = 0;
-  /// Asks for a drawing surface of this size that fills the display. 0 when it was given, also when
+  /// Requests a drawing surface of this size that fills the display. 0 when it was given, also when
   /// it had been given before; any other number when it was refused.
   virtual int change(Size size) = 0;
   /// Shows the given rectangles of the framebuffer (800 x 600 units).

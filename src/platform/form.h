@@ -15,7 +15,7 @@ namespace platform {
 class Form {
  public:
   /// Builds the controls of a table. `findImage` gives the surface of a picture by its name, or
-  /// nothing; it is asked for every row that names an image, and for `background`.
+  /// nothing; it is called for every row that names an image, and for `background`.
   Form(std::span<const ControlDesign> table, const char* background,
        const std::function<const Surface*(std::string_view)>& findImage);
 

@@ -1,5 +1,5 @@
 // Where the parts of text, lists and text boxes lie. The desk that answers a press and the painter
-// that shows it reckon with the same places.
+// that shows it use the same places.
 #pragma once
 
 #include <cstdint>

@@ -30,7 +30,7 @@ bool coversItsBox(const Control& control);
 Rect withShadow(const Rect& place);
 void paintShadow(const Brush& brush, const Rect& place);
 void paintOpenList(const Brush& brush, const Rect& place, const Control& control, int row);
-/// Where a tooltip stands for the control at `owner`.
+/// Where a tooltip is shown for the control at `owner`.
 Rect tooltipPlace(const Rect& owner, std::string_view text, Font& font);
 void paintTooltipFrame(const Brush& brush, const Rect& place);
 void paintTooltip(const Brush& brush, const Rect& place, std::string_view text);

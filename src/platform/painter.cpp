@@ -11,7 +11,7 @@ namespace {
 
 constexpr Rect kScreen{0, 0, kScreenWidth, kScreenHeight};
 
-/// A number that tells one look of a floating thing or a list from another.
+/// A number that differs where the look of a floating thing or a list does.
 class Digest {
  public:
   Digest& with(std::string_view text) {
@@ -58,7 +58,7 @@ std::uint64_t lookOfOpenList(const Control& control, int row) {
   return look.value();
 }
 
-/// Where a control lies on the screen, given the one that holds it.
+/// Where a control is on the screen, given the one that holds it.
 Rect placeIn(const Control& control, const Rect& parent) {
   if (control.design->kind == ControlKind::line) return parent;
   return moved(control.place, parent.left, parent.top);
@@ -223,7 +223,7 @@ void paintChildren(const Brush& brush, const Form& form, int parent, const Rect&
                    const auto& stateOf) {
   const std::span<const int> children = form.children(parent);
   std::size_t first = 0;
-  // What lies wholly behind a control that covers the brush's rectangle need not be painted.
+  // What is wholly behind a control that covers the brush's rectangle need not be painted.
   for (std::size_t i = children.size(); i-- > 0 && first == 0;) {
     const Control& control = form[children[i]];
     const Rect place = placeIn(control, parentPlace);

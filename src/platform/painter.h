@@ -42,7 +42,7 @@ class Painter {
 
   Font& font_;
   const Skin& skin_;
-  int opened_ = -1;  // which opening of a screen stands on the framebuffer
+  int opened_ = -1;  // which opening of a screen is on the framebuffer
   std::vector<Painted> painted_;
   Floating list_, tooltip_, box_;
   std::vector<Rect> covers_;  // boxes that hide what is behind them, the foremost first

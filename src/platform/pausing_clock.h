@@ -1,4 +1,4 @@
-// A clock that can stand still, for a game that nobody sees.
+// A clock that can be stopped, for a game that nobody sees.
 #pragma once
 
 #include "platform/clock.h"
@@ -29,8 +29,8 @@ class PausingClock : public Clock {
 
  private:
   Clock& real_;
-  std::int64_t behind_ = 0;     // milliseconds for which it has stood still
-  std::int64_t stoppedAt_ = 0;  // what it shows while it stands
+  std::int64_t behind_ = 0;     // milliseconds for which it was stopped
+  std::int64_t stoppedAt_ = 0;  // what it shows while stopped
   bool paused_ = false;
 };
 

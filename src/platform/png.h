@@ -14,7 +14,7 @@ namespace platform {
 /// or no whole number of units wide and high.
 bool readPng(const std::string& path, Surface& into, std::string& error, int scale = 1);
 
-/// Reads an opaque picture, as readPng does, while the caller goes on with other work.
+/// Reads an opaque picture, as readPng does, while the caller does other work.
 class PngAhead {
  public:
   explicit PngAhead(const std::string& path, int scale = 1);

@@ -15,7 +15,7 @@ class Presses {
   /// Milliseconds for which a fresh screen takes no press: two quick clicks lie closer together.
   static constexpr std::int64_t kSettling = 400;
 
-  /// Another screen has come up. Times are milliseconds of a clock that never stands still.
+  /// Another screen has come up. Times are milliseconds of a clock that never stops.
   void screenOpened(std::int64_t now) {
     ready_ = now + kSettling;
     held_ = 0;

@@ -10,7 +10,7 @@ namespace platform {
 std::string executableFolder();
 
 /// The folder that games and progress are kept in, whole and writable: the executable's own where
-/// `data` lies beside it and files can be made in it, else `vellmoran` in the user's data folder
+/// `data` is beside it and files can be made in it, else `vellmoran` in the user's data folder
 /// ($XDG_DATA_HOME, or ~/.local/share), which is made on first use and is for its user alone. That
 /// a folder of programs can be written, as by root, is no reason to put a player's files there.
 /// False, with what is wrong in `error`.

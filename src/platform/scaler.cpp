@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t kPixel = 4;
 constexpr Size kUnits{kScreenWidth, kScreenHeight};
 
-/// Where a picture lies on a display, and whether a pixel of it takes a whole number of pixels there.
+/// Where a picture is on a display, and whether a pixel of it takes a whole number of pixels there.
 struct Placed {
   Rect place;
   bool whole;
@@ -196,7 +196,7 @@ Rect Scaler::covered(const Rect& picturePart) const {
 }
 
 // Columns `begin` to `end - 1` of a row that is in `packed_`, where each is a pixel of the picture or
-// lies on the border of two.
+// is on the border of two.
 void Scaler::grow(std::uint32_t* to, int begin, int end) {
   const auto first = static_cast<std::size_t>(columns_.first(begin));
   const auto last = static_cast<std::size_t>(columns_.first(end - 1) + columns_.taps() - 1);

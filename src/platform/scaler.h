@@ -1,6 +1,6 @@
 // Brings a picture to a display of another size, and the pointer back.
 //
-// The picture keeps its aspect and lies in the middle, between black bars. Whole factors are taken
+// The picture keeps its aspect and is in the middle, between black bars. Whole factors are taken
 // where they fill at least nine tenths of the height they could have; else every pixel of the
 // display takes the part of the picture that it covers, so that edges are smooth and letters stay
 // sharp.
@@ -35,7 +35,7 @@ class Scaler {
   /// 1 x 1.
   Scaler(Size picture, Size display, int scale = 1);
 
-  /// Where the picture lies on the display.
+  /// Where the picture is on the display.
   const Rect& place() const { return place_; }
   bool whole() const { return whole_; }
 
@@ -63,7 +63,7 @@ class Scaler {
   ScalerAxis columns_;
   ScalerAxis rows_;
   // A row of the picture in the display's order of bits. Behind it, where the picture grows, what
-  // lies on the borders of its pixels: on each border lies at most one pixel of the display.
+  // is on the borders of its pixels: on each border is at most one pixel of the display.
   std::vector<std::uint32_t> packed_;
   // For every column of the display what it takes of that; where the picture shrinks, first the first
   // pixel of all columns, then the second of all, and what part of each.

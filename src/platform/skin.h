@@ -27,7 +27,7 @@ inline constexpr int kLooks = 9;
 struct LookDesign {
   const char* file;
   int left, top, right, bottom;  // how far its edges reach inwards
-  bool hollow;                   // shows what lies behind its middle
+  bool hollow;                   // shows what is behind its middle
   bool shaded;                   // its rows are spread over the height, not repeated
   int rim;                       // of a hollow one: the width that it covers along each side
 };

@@ -15,7 +15,7 @@ std::size_t bytes(int pixels) {
   return static_cast<std::size_t>(pixels) * kBytesPerPixel;
 }
 
-// The rows are walked byte by byte in plain loops, and each gives back whether it changed anything.
+// The rows are walked byte by byte in plain loops, and each returns whether it changed anything.
 
 bool copyRow(std::uint8_t* __restrict to, const std::uint8_t* __restrict from, std::size_t count) {
   std::memcpy(to, from, count);
@@ -162,7 +162,7 @@ bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surf
   const Rect area = intersection(box, target.pixelBounds());
   if (run == nullptr || area.empty() || from.empty()) return false;
   bool changed = false;
-  // The source pixel whose middle lies nearest to the middle of the target pixel.
+  // The source pixel whose middle is nearest to the middle of the target pixel.
   const auto nearest = [](int offset, int size, int sourceSize) {
     return static_cast<int>((2LL * offset + 1) * sourceSize / (2LL * size));
   };

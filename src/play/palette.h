@@ -1,4 +1,4 @@
-// The tool palette, and the switch between building and asking.
+// The tool palette, and the switch between build mode and info mode.
 #pragma once
 
 #include "play/scene.h"
@@ -8,7 +8,7 @@ namespace play {
 /// Holds down the keys of the tool in hand, the mode and the view, and no others. Whoever changes one
 /// of them calls it.
 void holdKeys(Scene& scene);
-/// A click on entry `index`, 0..8, of the palette takes tool index + 1 in hand.
+/// A click on key `index` of the palette takes its tool in hand (core::toolOfKey).
 void selectTool(Scene& scene, int index);
 /// Build mode; it always begins with the road.
 void enterBuildMode(Scene& scene);

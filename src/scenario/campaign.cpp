@@ -86,7 +86,7 @@ void checkMissionEnd(play::Scene& scene, store::ProgressKeeper& progress) {
   if (number < core::kFirstMission || number > core::kCampaignWon) return;
   if (number != core::kCampaignWon) {
     const int year = core::mission(number).judgementYear;
-    // The month counts too: who goes on playing a mission that was lost is not judged again.
+    // The month counts too: a player who continues a lost mission is not judged again.
     if (year == 0 || values.gYear != year || scene.game.month != 1) return;
     if (!missionGoalMet(scene.game, number)) {
       endRun(scene, "MISSION FAILED", play::timer::Timer11);

@@ -63,7 +63,7 @@ class Assets {
   explicit Assets(int scale = 1) : pictures(scale), images(scale) {}
   int scale() const { return pictures.scale(); }
 
-  /// Begins to read from a folder: the largest picture, beside what the caller goes on with. `open`
+  /// Begins to read from a folder: the largest picture, beside what the caller does next. `open`
   /// does so where it has not been done.
   void begin(const std::string& dataFolder);
   /// Reads what the menu shows. False, with the file's name and what is wrong in `error`.

@@ -1,4 +1,4 @@
-// What strikes the city: earthquake and theft in the missions that have them, and the loss of
+// Disasters: earthquake and theft in the missions that have them, and the loss of
 // buildings that a demolished road has cut off.
 #pragma once
 
@@ -16,7 +16,7 @@ bool shake(core::Earthquake& quake);
 /// How far the shake holds the picture from its place now, in pixels to the right.
 int shakeOffset(const core::Earthquake& quake);
 /// Brings buildings down; each standing cell of a building has one chance in ten. Clears the layers of
-/// the services that still have a standing cell when the scan comes to it. No rebuild: the caller
+/// the services of which a cell is still there when the scan reaches it. No rebuild: the caller
 /// rebuilds with a flood, marks all cells, redraws, and calls endEarthquake.
 void collapse(core::City& city, platform::Random& random);
 void endEarthquake(core::Earthquake& quake);

@@ -58,7 +58,7 @@ void gather(Bits& into, const core::CellGrid<core::Flag>& flags, unsigned bit) {
   }
 }
 
-// Gives back as flags the bits that were added.
+// Returns as flags the bits that were added.
 void giveBack(const Bits& before, const Bits& after, core::LayerGrids<core::Flag>& layers) {
   for (int y = kFirst; y <= kLastCell + 1; ++y) {
     for (int x = kFirst; x <= kLastCell + 1; ++x) {

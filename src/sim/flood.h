@@ -9,8 +9,8 @@
 namespace sim {
 
 /// Carries services along the roads into residences. Only adds to roadService and cellService.
-/// `placed` is the anchor of the block that a press has just placed, which is served more kindly than
-/// the flood serves.
+/// `placed` is the anchor of the block that a press has just placed, which is served more generously
+/// than the others.
 void floodServices(core::City& city, std::optional<core::Cell> placed = {});
 
 /// Clears roadService and cellService of service k, 1..5, over the cells 0 .. 30.

@@ -75,7 +75,7 @@ constexpr bool isWholeWithin(double value, double low, double high) {
          value == static_cast<double>(static_cast<long long>(value));
 }
 
-/// A piece of foreign text made fit for a message: at most `limit` characters, with a mark for what
+/// Text from a file made fit for a message: at most `limit` characters, with a mark for what
 /// is no character or has no picture.
 std::string plainText(std::string_view text, int limit);
 

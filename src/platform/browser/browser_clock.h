@@ -1,4 +1,4 @@
-// Time as the page counts it: it stands still while nobody can see the page.
+// Time as the page counts it: it stops while the page is hidden.
 #pragma once
 
 #include "platform/browser/host.h"

@@ -16,7 +16,7 @@ class VirtualMedia : public Media {
   void playTheme() override;
   void closeTheme() override;
 
-  /// What was asked for since the last call.
+  /// What was requested since the last call.
   std::vector<std::string> take();
 
  private:
