@@ -41,7 +41,9 @@ TEST(Panels, KeysOfTheSidePanelTakeAPressJustWhereTheyLight) {
 }
 
 TEST(Panels, EveryToolDoesWhatItsCaptionsSay) {
-  Play play("open-play");
+  Play play("open-play");  // with the road in hand
+  EXPECT_EQ(play.text(ui::buildprice),
+            "Price:" + number(core::buildingOfTool(core::kRoadTool)->price));
   play.run("set population=1000; advance 1000; click Command21; set gold=5000");
   for (int y = 10; y <= 20; ++y) play.run("press @15," + std::to_string(y));
   struct Site {

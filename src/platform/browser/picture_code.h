@@ -1,5 +1,5 @@
-// Pictures coded without loss, in a quarter of their bytes and a tenth less than the smallest PNG-like
-// forms: the packs are most of what a browser fetches.
+// Pictures coded without loss, in a quarter less than prediction and gzip take: the packs are most of what
+// a browser fetches.
 //
 // Every byte is predicted from its left and upper neighbours; red and blue moreover follow green by a
 // slope that is learned on the way. What remains is coded bit by bit with adaptive probabilities, chosen by
